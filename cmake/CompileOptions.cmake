@@ -1,0 +1,36 @@
+# SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+# SPDX-License-Identifier: MIT
+
+# simulator_options: language level, warnings and Qt definitions that every target of the project links.
+
+option(SIMULATOR_WERROR "Treat compiler warnings as errors" OFF)
+set(SIMULATOR_SANITIZERS "" CACHE STRING "Sanitizers to build with, such as address,undefined")
+option(SIMULATOR_COVERAGE "Instrument for line coverage" OFF)
+
+add_library(simulator_options INTERFACE)
+target_compile_features(simulator_options INTERFACE cxx_std_17)
+target_compile_definitions(simulator_options INTERFACE
+    QT_MESSAGELOGCONTEXT # without it release builds lose file, line and function of every log line
+    QT_DISABLE_DEPRECATED_BEFORE=0x050F00
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_URL_CAST_FROM_STRING
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_NO_FOREACH)
+target_compile_options(simulator_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+    -Wcast-qual -Wformat=2 -Wundef -Wextra-semi
+    # Qt's category macros leave their variadic argument empty at every streamed log line.
+    $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>
+    $<$<BOOL:${SIMULATOR_WERROR}>:-Werror>)
+
+if(SIMULATOR_SANITIZERS)
+    set(sanitizer_flags "-fsanitize=${SIMULATOR_SANITIZERS}" -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_compile_options(simulator_options INTERFACE ${sanitizer_flags})
+    target_link_options(simulator_options INTERFACE ${sanitizer_flags})
+endif()
+if(SIMULATOR_COVERAGE)
+    target_compile_options(simulator_options INTERFACE --coverage)
+    target_link_options(simulator_options INTERFACE --coverage)
+endif()

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QByteArray>
+#include <QRegExp>
+#include <QString>
+
+class QAbstractSocket;
+
+// Stateless network operations: blocking transfer of one packet, validation of address texts.
+//
+// The socket operations run in the thread that owns the socket and block it for at most 2 seconds. They
+// neither close nor abort the socket and throw nothing: a failure shows in *error (where that pointer is
+// given) and in a log line. The socket stays the caller's.
+class NetworkHelper
+{
+public:
+    NetworkHelper() = delete;
+
+    // Writes data to the socket. It is not a failure when the peer has closed the connection meanwhile. After
+    // a time-out the unsent rest stays in the socket's buffer and leaves with the event loop.
+    static void sendPacket(QAbstractSocket *socket, const QByteArray &data, bool *error);
+
+    // Returns what has arrived, not necessarily a whole frame; empty on failure.
+    static QByteArray receivePacket(QAbstractSocket *socket, bool *error);
+
+    // Six groups of hexadecimal digits, loosely: groups of up to four characters and runs of "-" as
+    // separators pass, as some drivers report them.
+    static bool isValidMacAddress(const QString &address);
+
+    // Addresses from the documentation range or with four leading zero bytes, lower case only.
+    static bool isPlaceholderMacAddress(const QString &address);
+
+    // Dotted IPv4 address whose last octet is not 255.
+    static QRegExp ipv4Pattern();
+    static bool isValidIpv4Address(const QString &address);
+
+    // Contiguous IPv4 netmask in dotted form.
+    static QRegExp netmaskPattern();
+
+    // "0x0 0x1A 0xFF": upper-case digits, unpadded, separated by blanks.
+    static QString toHexString(const QByteArray &data);
+};

@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+// SPDX-License-Identifier: MIT
+
+#include "common/helpers/systemhelper.h"
+
+#include "common/helpers/loggingcategories.h"
+
+#include <QDir>
+#include <QFile>
+#include <QUuid>
+
+#include <iostream>
+#include <stdexcept>
+
+#ifdef Q_OS_WIN
+#include <QSettings>
+#include <qt_windows.h>
+#include <shlobj.h>
+#else
+#include <QSysInfo>
+#include <unistd.h>
+#endif
+
+namespace {
+
+struct ProcessIdentity
+{
+    QString configurationPath;
+    QString serialNumberOverride;
+};
+Q_GLOBAL_STATIC(ProcessIdentity, identity)
+
+QString newIdentifier()
+{
+    return QUuid::createUuid().toString(QUuid::WithoutBraces);
+}
+
+void writeNewIdentifier(QFile &cache)
+{
+    // A full disk shows up in flush() only. An empty file left behind would become the identity of every
+    // later start, so it goes.
+    if (!cache.open(QIODevice::WriteOnly) || cache.write(newIdentifier().toUtf8()) == -1 || !cache.flush()) {
+        qCWarning(lcModbus) << "Could not write uuid to cache:" << cache.errorString();
+        if (cache.isOpen()) {
+            cache.remove();
+        }
+    }
+    cache.close();
+}
+
+#ifdef Q_OS_WIN
+QString readMachineGuid(QSettings::Format view)
+{
+    const QSettings registry(QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Cryptography"), view);
+    return registry.value(QStringLiteral("MachineGuid")).toString();
+}
+#endif
+
+QString rawMachineId()
+{
+#ifdef Q_OS_WIN
+    const QString guid = readMachineGuid(QSettings::NativeFormat);
+    return guid.isEmpty() ? readMachineGuid(QSettings::Registry64Format) : guid;
+#else
+    return QString::fromLatin1(QSysInfo::machineUniqueId());
+#endif
+}
+
+} // namespace
+
+void SystemHelper::initializeConfigurationPath()
+{
+    QString base = qEnvironmentVariable("PROGRAMDATA");
+    if (base.isEmpty()) {
+        base = QStringLiteral("C:/ProgramData");
+    }
+    QString path = QStringLiteral("%1/%2/%3")
+                       .arg(base, QStringLiteral("Pelmora"), QStringLiteral("Ravel Monitor Orbis Simulator"));
+    const QString subdirectory = qEnvironmentVariable("TP_PD");
+    if (!subdirectory.isEmpty()) {
+        path += QStringLiteral("/%1").arg(subdirectory);
+    }
+
+    const QDir directory(path);
+    if (!directory.exists() && !QDir().mkpath(directory.absolutePath())) {
+        throw std::runtime_error("Configuration path is inaccessible.");
+    }
+    identity->configurationPath = directory.absolutePath();
+
+    // Flushed at once: whoever started the program with its output in a file or pipe looks for this line.
+    std::cout << "Configuration base path: " << identity->configurationPath.toUtf8().constData() << std::endl;
+}
+
+QString SystemHelper::configurationPath()
+{
+    if (identity->configurationPath.isEmpty()) {
+        qCWarning(lcCore) << "Configuration path not set!";
+    }
+    return identity->configurationPath;
+}
+
+void SystemHelper::setSerialNumberOverride(const QString &serialNumber)
+{
+    identity->serialNumberOverride = serialNumber;
+}
+
+QString SystemHelper::getIdentifier()
+{
+    if (!identity->serialNumberOverride.isEmpty()) {
+        return identity->serialNumberOverride;
+    }
+
+    QFile cache(configurationPath() + QStringLiteral("/sn_cache"));
+    qCInfo(lcModbus) << "Accessing cache file:" << cache.fileName();
+    if (!cache.exists()) {
+        writeNewIdentifier(cache);
+    }
+    if (!cache.open(QIODevice::ReadOnly)) {
+        qCWarning(lcModbus) << "Could not read cache file:" << cache.errorString()
+                            << "create an uncached identifier.";
+        return newIdentifier();
+    }
+    const QString identifier = QString::fromUtf8(cache.readAll());
+    qCInfo(lcModbus) << "Cached ID:" << identifier;
+    return identifier;
+}
+
+QString SystemHelper::machineId()
+{
+    const QString id = rawMachineId().remove(QLatin1Char('"')).trimmed();
+    if (id.isEmpty()) {
+        qWarning() << "No machine id found!";
+    }
+    return id;
+}
+
+QString SystemHelper::userAndComputerName()
+{
+    const QString user = qEnvironmentVariable("USERNAME");
+    const QString client = qEnvironmentVariable("CLIENTNAME");
+    const QString computer = qEnvironmentVariable("COMPUTERNAME");
+
+    QString name = user;
+    if (!user.isEmpty() && !(client.isEmpty() && computer.isEmpty())) {
+        name += QLatin1Char('@');
+    }
+    name += client;
+    if (!client.isEmpty() && !computer.isEmpty()) {
+        name += QLatin1Char('.');
+    }
+    return name + computer;
+}
+
+bool SystemHelper::isUserAdmin()
+{
+#ifdef Q_OS_WIN
+    return IsUserAnAdmin();
+#else
+    return geteuid() == 0;
+#endif
+}
