@@ -1,0 +1,268 @@
+// SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+// SPDX-License-Identifier: MIT
+
+#include "common/modbus/modbustcpslave.h"
+
+#include "common/helpers/loggingcategories.h"
+#include "common/helpers/networkhelper.h"
+#include "common/modbus/modbustcpslave_p.h"
+
+#include <QHostAddress>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTimer>
+#include <QtEndian>
+
+#include <cstring>
+
+namespace {
+
+enum FunctionCode : quint8 {
+    ReadHoldingRegisters = 3,
+    WriteMultipleRegisters = 16,
+};
+
+// A request takes 260 bytes at the most; what a master sends beyond this before it is served waits in TCP.
+constexpr qint64 readBufferSize = 64 * 1024;
+
+constexpr int acceptRetryMs = 1000;
+
+// Takes up requests that arrived while an answer was on its way out. Qt reads them into the socket's buffer
+// during a blocking send and emits no further readyRead() for them. The way through the event loop gives
+// other masters their turn in between.
+void takeUpWaitingRequest(QTcpSocket *socket)
+{
+    if (socket->bytesToWrite() == 0 && socket->bytesAvailable() > 0) {
+        QMetaObject::invokeMethod(socket, "readyRead", Qt::QueuedConnection);
+    }
+}
+
+} // namespace
+
+ModbusTcpSlave::ModbusTcpSlave(QObject *parent) : ModbusTcpSlave(new ModbusTcpSlavePrivate, parent)
+{
+}
+
+ModbusTcpSlave::ModbusTcpSlave(ModbusTcpSlavePrivate *dd, QObject *parent) : QObject(parent), d(dd)
+{
+    d->init(this);
+}
+
+ModbusTcpSlave::~ModbusTcpSlave() = default;
+
+QVariant ModbusTcpSlave::holdingRegister(quint16 number) const
+{
+    const auto found = d->m_registers.constFind(number);
+    if (found == d->m_registers.constEnd()) {
+        qCWarning(lcModbus) << "No register set with number" << number;
+        return {};
+    }
+    return *found;
+}
+
+void ModbusTcpSlave::setHoldingRegister(quint16 number, const QVariant &value)
+{
+    d->m_registers.insert(number, value);
+}
+
+void ModbusTcpSlave::start(quint16 port)
+{
+    if (!d->m_server->listen(QHostAddress::Any, port)) {
+        qCCritical(lcModbus) << "Failed listening on port" << port;
+    }
+}
+
+void ModbusTcpSlave::stop()
+{
+    d->m_server->close();
+}
+
+ModbusTcpSlavePrivate::~ModbusTcpSlavePrivate()
+{
+    m_server->close();
+}
+
+void ModbusTcpSlavePrivate::init(ModbusTcpSlave *slave)
+{
+    q = slave;
+    setParent(slave);
+    m_server = new QTcpServer(this);
+    connect(m_server, SIGNAL(newConnection()), this, SLOT(processNewClientConnection()));
+    connect(m_server, &QTcpServer::acceptError, this, &ModbusTcpSlavePrivate::retryAccepting);
+}
+
+void ModbusTcpSlavePrivate::processNewClientConnection()
+{
+    auto *server = qobject_cast<QTcpServer *>(sender());
+    if (!server) {
+        qCCritical(lcModbus) << "Called from invalid or non-QTcpServer object.";
+        return;
+    }
+    while (server->hasPendingConnections()) {
+        adopt(server->nextPendingConnection());
+    }
+}
+
+void ModbusTcpSlavePrivate::adopt(QTcpSocket *client)
+{
+    client->setReadBufferSize(readBufferSize);
+    m_clients.append(client);
+    connect(client, SIGNAL(readyRead()), this, SLOT(processRequest()));
+    connect(client, &QTcpSocket::bytesWritten, client, [client] { takeUpWaitingRequest(client); });
+    // The server is the receiver, so that sockets which it deletes at the end of its life find nobody to
+    // tell.
+    connect(client, &QTcpSocket::disconnected, m_server, [this, client] {
+        m_clients.removeOne(client);
+        client->deleteLater();
+    });
+    qCDebug(lcModbus) << "Modbus master" << client->peerAddress().toString() << "connected.";
+}
+
+// QTcpServer pauses at the first connection that it cannot take, most likely because descriptors ran out.
+// Nobody could ever connect again if it were not told to go on.
+void ModbusTcpSlavePrivate::retryAccepting()
+{
+    qCWarning(lcModbus) << "Failed accepting a Modbus master:" << m_server->errorString();
+    QTimer::singleShot(acceptRetryMs, this, [this] {
+        if (m_server->isListening()) {
+            m_server->resumeAccepting();
+        }
+    });
+}
+
+void ModbusTcpSlavePrivate::processRequest()
+{
+    auto *socket = qobject_cast<QTcpSocket *>(sender());
+    if (!socket) {
+        qCCritical(lcModbus) << "Called from invalid or non-QTcpSocket object.";
+        return;
+    }
+    // A master that does not fetch its answer has to wait with its next request: otherwise every one of them
+    // would hold up all other masters for the time-out of the blocking send. bytesWritten() takes it up
+    // again.
+    if (socket->bytesToWrite() > 0) {
+        return;
+    }
+    const QByteArray bytes = socket->readAll();
+    if (bytes.isEmpty()) {
+        return;
+    }
+    qCDebug(lcModbus) << "Received" << bytes.size() << "byte request:" << bytes.toHex(' ');
+    if (bytes.size() < TcpApplicationDataUnit::minimumSize) {
+        qCWarning(lcModbus) << "Invalid request, shorter than a Modbus TCP header.";
+        return;
+    }
+
+    const auto request = TcpApplicationDataUnit::fromByteArray(bytes);
+    switch (request.pdu().functionCode()) {
+    case ReadHoldingRegisters:
+        handleReadHoldingRegisters(socket, request);
+        break;
+    case WriteMultipleRegisters:
+        handleWriteMultipleRegisters(socket, request);
+        break;
+    default:
+        handleCustomFunctionCode(socket, request);
+    }
+}
+
+QByteArray ModbusTcpSlavePrivate::sendResponse(QTcpSocket *socket, const TcpApplicationDataUnit &request,
+                                               const QByteArray &data)
+{
+    const TcpApplicationDataUnit response(request.transactionId(), request.protocolId(), request.unitId(),
+                                          ProtocolDataUnit(request.pdu().functionCode(), data));
+    QByteArray bytes = response.toByteArray();
+    NetworkHelper::sendPacket(socket, bytes, nullptr);
+    return bytes;
+}
+
+quint32 ModbusTcpSlavePrivate::valueBits(const QVariant &value)
+{
+    quint32 bits = 0;
+    switch (value.userType()) {
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Float:
+        std::memcpy(&bits, value.constData(), sizeof bits);
+        break;
+    default:
+        break;
+    }
+    return bits;
+}
+
+bool ModbusTcpSlavePrivate::hasData(const TcpApplicationDataUnit &request, int size)
+{
+    if (request.pdu().data().size() >= size) {
+        return true;
+    }
+    qCWarning(lcModbus) << "Invalid request, too little data for function code"
+                        << request.pdu().functionCode();
+    return false;
+}
+
+void ModbusTcpSlavePrivate::handleReadHoldingRegisters(QTcpSocket *socket,
+                                                       const TcpApplicationDataUnit &request)
+{
+    if (!hasData(request, 4)) {
+        return;
+    }
+    const QByteArray fields = request.pdu().data();
+    const auto start = qFromBigEndian<quint16>(fields.constData());
+    const auto count = qFromBigEndian<quint16>(fields.constData() + 2);
+    qCDebug(lcModbus) << "Requested" << count << "registers, starting from" << start << ".";
+
+    // Counts beyond the 125 of the Modbus standard are served too; the byte count then wraps.
+    QByteArray data(2 * count + 1, Qt::Uninitialized);
+    data[0] = static_cast<char>(2 * count);
+    for (int i = 0; i < count; ++i) {
+        const QVariant value = q->holdingRegister(static_cast<quint16>(start + i));
+        qToBigEndian(static_cast<quint16>(valueBits(value)), data.data() + 1 + 2 * i);
+    }
+
+    const QByteArray response = sendResponse(socket, request, data);
+    emit q->holdingRegisterRead(start, count);
+    qCDebug(lcModbus) << "Sent response to ReadHoldingRegisters request:" << response.toHex(' ');
+}
+
+void ModbusTcpSlavePrivate::handleWriteMultipleRegisters(QTcpSocket *socket,
+                                                         const TcpApplicationDataUnit &request)
+{
+    constexpr int valuesOffset = 5;
+    if (!hasData(request, valuesOffset)) {
+        return;
+    }
+    const QByteArray fields = request.pdu().data();
+    const auto start = qFromBigEndian<quint16>(fields.constData());
+    const auto count = qFromBigEndian<quint16>(fields.constData() + 2);
+    const int byteCount = static_cast<quint8>(fields.at(4));
+    if (byteCount != 2 * count) {
+        qCWarning(lcModbus) << "Invalid request, byteCount != 2 * registerCount.";
+        return;
+    }
+    if (!hasData(request, valuesOffset + byteCount)) {
+        return;
+    }
+    qCDebug(lcModbus) << "Requested writing" << count << "registers, starting from" << start << ".";
+
+    for (int i = 0; i < count; ++i) {
+        const auto value = qFromBigEndian<quint16>(fields.constData() + valuesOffset + 2 * i);
+        q->setHoldingRegister(static_cast<quint16>(start + i), static_cast<int>(value));
+    }
+
+    // The device echoes both fields with their bytes swapped, and its masters expect that.
+    QByteArray data(4, Qt::Uninitialized);
+    qToLittleEndian(start, data.data());
+    qToLittleEndian(count, data.data() + 2);
+    const QByteArray response = sendResponse(socket, request, data);
+    emit q->holdingRegisterWritten(start, count);
+    qCDebug(lcModbus) << "Sent response to WriteMultipleRegisters request:" << response.toHex(' ');
+}
+
+void ModbusTcpSlavePrivate::handleCustomFunctionCode(QTcpSocket *socket,
+                                                     const TcpApplicationDataUnit &request)
+{
+    Q_UNUSED(socket)
+    Q_UNUSED(request)
+    qCDebug(lcModbus) << "Received custom function code, but I'm a plain modbus tcp instance.";
+}
