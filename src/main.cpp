@@ -1,7 +1,173 @@
 // SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 // SPDX-License-Identifier: MIT
 
-int main()
+// Start-up. The order of the steps matters: the configuration directory needs the application's name and must
+// be known before the application object exists, and a second instance ends before it opens anything.
+
+#include "common/helpers/loggingcategories.h"
+#include "common/helpers/systemhelper.h"
+#include "common/i18n/languagemanager.h"
+#include "common/other/unifiedstorage.h"
+#include "common/other/urllistenerpeer.h"
+#include "mainwindow.h"
+#include "modbusmanager.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QTimer>
+#include <QUrl>
+
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
+#endif
+
+namespace {
+
+struct Options
 {
-    return 0;
+    bool factoryTechnician = false;
+    QString language; // empty for the stored one
+};
+
+// Name of the single-instance channel and of the directory with the translations.
+QString applicationKey()
+{
+    return QStringLiteral("RavelMonitorOrbisSimulator");
+}
+
+// What start-up creates this way is never deleted: tearing the device down piece by piece at the end of the
+// process would only show its clients states that no real device has.
+template <typename T>
+T *livesUntilExit()
+{
+    return q_check_ptr(new T(nullptr));
+}
+
+#ifdef Q_OS_WIN
+// Lets the console show escape sequences in log lines, gets it out of the way, and allows any process to
+// bring its window to the front. None of this is worth stopping for when it fails.
+void prepareConsole()
+{
+    const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
+    DWORD mode = 0;
+    if (output != INVALID_HANDLE_VALUE && GetConsoleMode(output, &mode)) {
+        SetConsoleMode(output, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
+    }
+    ShowWindow(GetConsoleWindow(), SW_MINIMIZE);
+    AllowSetForegroundWindow(ASFW_ANY);
+}
+#endif
+
+bool isSecondInstance()
+{
+    qCInfo(lcCore) << "Checking for previous instance...";
+    return UrlListenerPeer::instance(applicationKey())->sendUrl(QUrl());
+}
+
+Options readCommandLine()
+{
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    const QCommandLineOption serialNumber(QStringLiteral("sn"), QStringLiteral("SerialNumber"),
+                                          QStringLiteral("sn"), QLatin1String(""));
+    const QCommandLineOption factoryTechnician(QStringLiteral("factorytech"));
+    QCommandLineOption language(QStringLiteral("language"), QLatin1String(""), QStringLiteral("lang"),
+                                QString());
+    language.setDefaultValue(QLatin1String(""));
+    parser.addOption(serialNumber);
+    parser.addOption(factoryTechnician);
+    parser.addOption(language);
+    parser.process(QCoreApplication::arguments());
+
+    SystemHelper::setSerialNumberOverride(parser.value(serialNumber));
+    return {parser.isSet(factoryTechnician), parser.value(language)};
+}
+
+void loadSettings()
+{
+    auto *storage = livesUntilExit<UnifiedStorage>();
+    storage->loadSnapshot(
+        SystemHelper::configurationPath() + QStringLiteral("/Ravel Monitor Orbis Simulator.json"), false);
+}
+
+// A language from the command line is taken as it is; without one the stored language counts.
+void installLanguage(const QString &requested)
+{
+    QString language = requested;
+    if (language.isEmpty()) {
+        language = UnifiedStorage::instance()
+                       ->restore(QStringLiteral("/language"), QStringLiteral("de_DE"))
+                       .toString();
+    }
+    const QString directory = LanguageManager::findTranslations(QCoreApplication::applicationDirPath());
+    const QStringList searchList(QStringLiteral("%1/%2").arg(directory, applicationKey()));
+    auto *manager = q_check_ptr(new LanguageManager(searchList, QCoreApplication::instance()));
+    manager->setLanguage(language);
+}
+
+void connectParts(MainWindow *window, ModbusManager *engine)
+{
+    QObject::connect(window, SIGNAL(startRequested()), engine, SLOT(startAnimation()));
+    QObject::connect(window, SIGNAL(stopRequested()), engine, SLOT(stopAnimation()));
+    QObject::connect(window, SIGNAL(alarmIdChanged(int)), engine, SLOT(setAlarmId(int)));
+    QObject::connect(window, SIGNAL(injectAlarmRequested()), engine, SLOT(setMotorShortcircuitAlarm()));
+    QObject::connect(window, SIGNAL(alarmImportanceChanged(int)), engine, SLOT(setAlarmImportance(int)));
+    QObject::connect(window, SIGNAL(alarmActionChanged(int)), engine, SLOT(setAlarmAction(int)));
+    QObject::connect(window, SIGNAL(removeAlarmRequested()), engine, SLOT(removeMotorShortcircuitAlarm()));
+    QObject::connect(UrlListenerPeer::instance(applicationKey()), SIGNAL(urlReceived(QUrl)), window,
+                     SLOT(onUrlReceived(QUrl)));
+}
+
+// Nothing is connected to F12 and nothing is to be: the shortcut is only kept from reaching anybody else.
+void reserveShortcut(MainWindow *window)
+{
+    auto *action = new QAction(window);
+    action->setShortcut(Qt::Key_F12);
+    action->setShortcutContext(Qt::ApplicationShortcut);
+    window->addAction(action);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+#ifdef Q_OS_WIN
+    prepareConsole();
+#endif
+    QCoreApplication::setOrganizationName(QStringLiteral("Pelmora"));
+    QCoreApplication::setApplicationName(QStringLiteral("Ravel Monitor Orbis Simulator"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("22.3.0.51"));
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+    SystemHelper::initializeConfigurationPath();
+
+    QApplication application(argc, argv);
+    q_check_ptr(new UrlListenerPeer(QCoreApplication::instance(), applicationKey()));
+    if (isSecondInstance()) {
+        qCInfo(lcNotifier) << "Second instance detected! Shutting down!";
+        // The event loop is never entered here, so this quit is for an event loop that somebody else may run
+        // while the application object goes down.
+        QTimer::singleShot(0, qApp, SLOT(quit()));
+        return 0;
+    }
+    qInfo() << "This is the first instance";
+    UrlListenerPeer::instance(applicationKey())->startServer();
+
+    const Options options = readCommandLine();
+    // Not before the application object exists: with this file's plugin path it would find no platform
+    // plugin.
+    Q_INIT_RESOURCE(qtconfiguration);
+    loadSettings();
+    installLanguage(options.language);
+
+    auto *engine = livesUntilExit<ModbusManager>();
+    auto *window = livesUntilExit<MainWindow>();
+    connectParts(window, engine);
+    reserveShortcut(window);
+    if (options.factoryTechnician) {
+        window->setAlarmSelectionEnabled(true);
+    }
+    window->setSerialNumber(SystemHelper::getIdentifier());
+    window->show();
+    return QApplication::exec();
 }

@@ -1,0 +1,33 @@
+# SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+# SPDX-License-Identifier: MIT
+#
+# A thin front for CMake: each target installs what it misses and then does the one thing that it is named after.
+
+build_packages = g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
+test_packages = $(build_packages) iproute2 python3 python3-pymodbus mbpoll libmodbus-dev pkg-config
+lint_packages = $(test_packages) clang-tidy clazy
+
+.PHONY: run test lint build clean
+
+run:
+	@scripts/require-packages $(build_packages)
+	@$(MAKE) --no-print-directory build PRESET=release
+	@scripts/run build-release/RavelMonitorOrbisSimulator $(ARGUMENTS)
+
+# PRESET=asan, tsan or coverage runs the same suite instrumented.
+test: PRESET ?= release
+test:
+	@scripts/require-packages $(test_packages)
+	@$(MAKE) --no-print-directory build PRESET=$(PRESET)
+	ctest --test-dir build-$(PRESET) --output-on-failure --no-tests=error
+
+lint:
+	@scripts/require-packages $(lint_packages)
+	scripts/lint
+
+build:
+	cmake --preset $(PRESET) --log-level=WARNING
+	cmake --build --preset $(PRESET)
+
+clean:
+	rm -rf build-*

@@ -1,0 +1,263 @@
+// SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow.h"
+
+#include "common/helpers/loggingcategories.h"
+#include "common/i18n/languagemanager.h"
+#include "mainwindow_p.h"
+#include "ui_mainwindow.h"
+
+#include <QEvent>
+#include <QFile>
+#include <QFontMetrics>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+// The alarm in force while the operator cannot choose one: "Motor too hot.", an error, to be confirmed.
+constexpr int defaultAlarmId = 0x31020011;
+constexpr int defaultAlarmImportance = 3;
+constexpr int defaultAlarmAction = 1;
+
+constexpr int factoryTechnicianAccess = 4;
+
+// Keeps the window of a long-winded event on the screen.
+constexpr int maximumEntryWidth = 500;
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate("GUI", source);
+}
+
+void addItem(QComboBox *picker, const QString &itemText, const QVariant &data)
+{
+    picker->addItem(QIcon(), itemText, data);
+}
+
+QJsonArray readCatalogue(bool *ok)
+{
+    *ok = false;
+    QFile file(QStringLiteral(":/alarmmapping"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        qCCritical(lcGui) << "Unable to open event list from resources";
+        return {};
+    }
+    QJsonParseError error;
+    const auto document = QJsonDocument::fromJson(file.readAll(), &error);
+    if (error.error != QJsonParseError::NoError) {
+        qCCritical(lcGui) << "Failed parsing event list from resources:" << static_cast<int>(error.error);
+        return {};
+    }
+    *ok = true;
+    return document.array();
+}
+
+// The text in the current language, else the catalogue's own.
+QString alarmText(const QString &signature, const QString &message)
+{
+    const QString translated = QCoreApplication::translate("Alarm Service", signature.toUtf8().constData());
+    return translated == signature ? message : translated;
+}
+
+// Entry texts by signature. Of rows with the same signature the last one counts.
+QMap<QString, QString> pickerEntries(const QJsonArray &catalogue)
+{
+    const QFontMetrics metrics((QFont()));
+    QMap<QString, QString> entries;
+    for (const QJsonValue &value : catalogue) {
+        const QJsonObject row = value.toObject();
+        const QString signature = row.value(QLatin1String("signature")).toString();
+        bool ok = false;
+        signature.toUInt(&ok, 16);
+        if (!ok) {
+            qCCritical(lcCore) << "Cannot parse event signature" << signature;
+            continue;
+        }
+        const QString message = alarmText(signature, row.value(QLatin1String("message")).toString());
+        entries.insert(signature,
+                       metrics.elidedText(QStringLiteral("%1: %2").arg(signature, message), Qt::ElideRight,
+                                          maximumEntryWidth));
+    }
+    return entries;
+}
+
+} // namespace
+
+MainWindow::MainWindow(QWidget *parent) : QWidget(parent), d(q_check_ptr(new MainWindowPrivate(this)))
+{
+    d->setTitle();
+}
+
+void MainWindow::setAlarmSelectionEnabled(bool enabled)
+{
+    connect(d->ui->alarmList, SIGNAL(currentIndexChanged(int)), d, SLOT(changeAlarmId()),
+            Qt::UniqueConnection);
+    connect(d->ui->alarmImportance, SIGNAL(currentIndexChanged(int)), d, SLOT(changeAlarmImportance()),
+            Qt::UniqueConnection);
+    connect(d->ui->alarmAction, SIGNAL(currentIndexChanged(int)), d, SLOT(changeAlarmAction()),
+            Qt::UniqueConnection);
+
+    d->ui->alarmList->setVisible(enabled);
+    d->ui->alarmImportance->setVisible(enabled);
+    d->ui->alarmAction->setVisible(enabled);
+
+    if (enabled) {
+        d->loadAlarms();
+    } else {
+        emit alarmIdChanged(defaultAlarmId);
+        emit alarmImportanceChanged(defaultAlarmImportance);
+        emit alarmActionChanged(defaultAlarmAction);
+    }
+}
+
+void MainWindow::setSerialNumber(const QString &serial)
+{
+    d->ui->snLabel->setText(QStringLiteral("Sn: %1").arg(serial));
+}
+
+void MainWindow::onUrlReceived(const QUrl &url)
+{
+    qCInfo(lcCore) << "Url received";
+    const QStringList parts = url.path(QUrl::FullyDecoded).split(QLatin1Char('/'), Qt::SkipEmptyParts);
+    if (parts.size() == 2 && parts.first() == QLatin1String("change_lang")) {
+        d->changeLanguage(parts.last());
+    } else if (parts.size() == 2 && parts.first() == QLatin1String("access_level")) {
+        setAlarmSelectionEnabled(parts.last().toInt() == factoryTechnicianAccess);
+    } else {
+        qCWarning(lcCore) << "Could not interpret URL" << url;
+    }
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() != QEvent::LanguageChange) {
+        QWidget::changeEvent(event);
+        return;
+    }
+    // After a language change the toggle offers to end the simulation, whether it runs or not. Operators and
+    // their scripts know it so; the next click still does what the state calls for.
+    d->ui->startStopSimulationButton->setText(text("Simulation starten"));
+    d->ui->startStopSimulationButton->setText(text("Simulation beenden"));
+    d->setAlarmButtonTexts();
+    d->loadAlarms();
+    d->setTitle();
+}
+
+MainWindowPrivate::MainWindowPrivate(MainWindow *window) : QObject(window), q(window)
+{
+    Q_INIT_RESOURCE(alarmcatalogue);
+    ui = std::make_unique<Ui::MainWindow>();
+    ui->setupUi(q);
+    connect(ui->startStopSimulationButton, &QPushButton::clicked, this, &MainWindowPrivate::toggleSimulation);
+    ui->startStopSimulationButton->setText(text("Simulation starten"));
+    setAlarmButtonTexts();
+    connect(ui->raiseAlarmButton, SIGNAL(clicked()), q, SIGNAL(injectAlarmRequested()));
+    connect(ui->removeAlarmButton, SIGNAL(clicked()), q, SIGNAL(removeAlarmRequested()));
+    ui->alarmList->setVisible(false);
+    ui->alarmImportance->setVisible(false);
+    ui->alarmAction->setVisible(false);
+}
+
+MainWindowPrivate::~MainWindowPrivate() = default;
+
+void MainWindowPrivate::toggleSimulation()
+{
+    if (running) {
+        ui->startStopSimulationButton->setText(text("Simulation starten"));
+        emit q->stopRequested();
+    } else {
+        ui->startStopSimulationButton->setText(text("Simulation beenden"));
+        emit q->startRequested();
+    }
+    running = !running;
+}
+
+void MainWindowPrivate::setTitle()
+{
+    q->setWindowTitle(QCoreApplication::applicationName() + QStringLiteral(" - ")
+                      + QCoreApplication::organizationName());
+}
+
+void MainWindowPrivate::setAlarmButtonTexts()
+{
+    ui->raiseAlarmButton->setText(text("Alarm auslösen"));
+    ui->removeAlarmButton->setText(text("Alarm beenden"));
+}
+
+void MainWindowPrivate::changeAlarmId()
+{
+    const QString signature = ui->alarmList->currentData().toString();
+    bool ok = false;
+    const uint value = signature.toUInt(&ok, 16);
+    if (!ok) {
+        qCCritical(lcCore) << "Cannot parse event signature" << signature;
+        return;
+    }
+    emit q->alarmIdChanged(static_cast<int>(value));
+}
+
+void MainWindowPrivate::changeAlarmImportance()
+{
+    emit q->alarmImportanceChanged(ui->alarmImportance->currentData().toInt());
+}
+
+void MainWindowPrivate::changeAlarmAction()
+{
+    emit q->alarmActionChanged(ui->alarmAction->currentData().toInt());
+}
+
+void MainWindowPrivate::changeLanguage(const QString &language)
+{
+    LanguageManager *manager = LanguageManager::instance();
+    if (!manager || language.isEmpty() || language == manager->currentLanguage()) {
+        return;
+    }
+    qCInfo(lcCore) << "Changing Language to" << language;
+    manager->setLanguage(language);
+}
+
+void MainWindowPrivate::loadAlarms()
+{
+    bool ok = false;
+    const QJsonArray catalogue = readCatalogue(&ok);
+    if (!ok) {
+        return;
+    }
+    fillAlarmPicker(pickerEntries(catalogue));
+    fillImportancePicker();
+    fillActionPicker();
+}
+
+// Signatures in plain string order: "0x0" comes first, upper-case digits before lower-case ones.
+void MainWindowPrivate::fillAlarmPicker(const QMap<QString, QString> &entries)
+{
+    ui->alarmList->clear();
+    for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry) {
+        addItem(ui->alarmList, entry.value(), entry.key());
+    }
+    ui->alarmList->setAccessibleName(text("Alarm"));
+}
+
+void MainWindowPrivate::fillImportancePicker()
+{
+    // The names of the syslog severities are the same in every language.
+    ui->alarmImportance->clear();
+    addItem(ui->alarmImportance, QStringLiteral("OK"), 0);
+    addItem(ui->alarmImportance, QStringLiteral("ERR"), 3);
+    addItem(ui->alarmImportance, QStringLiteral("WARN"), 4);
+    addItem(ui->alarmImportance, QStringLiteral("NOTICE"), 5);
+    addItem(ui->alarmImportance, QStringLiteral("INFO"), 6);
+    ui->alarmImportance->setAccessibleName(text("Wichtigkeit"));
+}
+
+void MainWindowPrivate::fillActionPicker()
+{
+    ui->alarmAction->clear();
+    addItem(ui->alarmAction, text("Bestätigung"), 1);
+    addItem(ui->alarmAction, text("Keine Bestätigung"), 0);
+    addItem(ui->alarmAction, text("In Liste anzeigen"), 16);
+    ui->alarmAction->setAccessibleName(text("Aktion"));
+}

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+// SPDX-License-Identifier: MIT
+
+// Private part of MainWindow.
+
+#pragma once
+
+#include <QMap>
+#include <QObject>
+
+#include <memory>
+
+class MainWindow;
+class QJsonArray;
+
+namespace Ui {
+class MainWindow;
+}
+
+class MainWindowPrivate : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindowPrivate(MainWindow *window);
+    ~MainWindowPrivate() override;
+
+    void toggleSimulation();
+    void setTitle();
+    void setAlarmButtonTexts();
+
+    // Refills the three pickers from the alarm catalogue. A catalogue that cannot be read leaves them
+    // untouched.
+    void loadAlarms();
+
+    std::unique_ptr<Ui::MainWindow> ui;
+    bool running = false;
+    MainWindow *const q;
+
+private slots:
+    void changeAlarmId();
+    void changeAlarmImportance();
+    void changeAlarmAction();
+    void changeLanguage(const QString &language);
+
+private:
+    void fillAlarmPicker(const QMap<QString, QString> &entries);
+    void fillImportancePicker();
+    void fillActionPicker();
+
+    friend class MainWindow;
+};
