@@ -7,8 +7,11 @@ option(SIMULATOR_WERROR "Treat compiler warnings as errors" OFF)
 set(SIMULATOR_SANITIZERS "" CACHE STRING "Sanitizers to build with, such as address,undefined")
 option(SIMULATOR_COVERAGE "Instrument for line coverage" OFF)
 
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+
 add_library(simulator_options INTERFACE)
-target_compile_features(simulator_options INTERFACE cxx_std_17)
 target_compile_definitions(simulator_options INTERFACE
     QT_MESSAGELOGCONTEXT # without it release builds lose file, line and function of every log line
     QT_DISABLE_DEPRECATED_BEFORE=0x050F00

@@ -20,6 +20,10 @@
 
 #ifdef Q_OS_WIN
 #include <qt_windows.h>
+#else
+#include <QSocketNotifier>
+#include <csignal>
+#include <sys/signalfd.h>
 #endif
 
 namespace {
@@ -56,6 +60,19 @@ void prepareConsole()
     }
     ShowWindow(GetConsoleWindow(), SW_MINIMIZE);
     AllowSetForegroundWindow(ASFW_ANY);
+}
+#else
+// Ends the event loop, and so the program with exit code 0, when it is asked to terminate. To be called before any
+// thread is started: threads inherit that these signals are blocked.
+void quitOnTermination()
+{
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGTERM);
+    sigaddset(&signals, SIGINT);
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    auto *notifier = new QSocketNotifier(signalfd(-1, &signals, SFD_CLOEXEC), QSocketNotifier::Read, qApp);
+    QObject::connect(notifier, &QSocketNotifier::activated, qApp, &QCoreApplication::quit);
 }
 #endif
 
@@ -137,7 +154,7 @@ int main(int argc, char *argv[])
 #endif
     QCoreApplication::setOrganizationName(QStringLiteral("Pelmora"));
     QCoreApplication::setApplicationName(QStringLiteral("Ravel Monitor Orbis Simulator"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("22.3.0.51"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(SIMULATOR_VERSION));
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     SystemHelper::initializeConfigurationPath();
 
@@ -152,6 +169,9 @@ int main(int argc, char *argv[])
     }
     qInfo() << "This is the first instance";
     UrlListenerPeer::instance(applicationKey())->startServer();
+#ifndef Q_OS_WIN
+    quitOnTermination();
+#endif
 
     const Options options = readCommandLine();
     // Not before the application object exists: with this file's plugin path it would find no platform

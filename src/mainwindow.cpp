@@ -27,11 +27,6 @@ constexpr int factoryTechnicianAccess = 4;
 // Keeps the window of a long-winded event on the screen.
 constexpr int maximumEntryWidth = 500;
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("GUI", source);
-}
-
 void addItem(QComboBox *picker, const QString &itemText, const QVariant &data)
 {
     picker->addItem(QIcon(), itemText, data);
@@ -139,8 +134,8 @@ void MainWindow::changeEvent(QEvent *event)
     }
     // After a language change the toggle offers to end the simulation, whether it runs or not. Operators and
     // their scripts know it so; the next click still does what the state calls for.
-    d->ui->startStopSimulationButton->setText(text("Simulation starten"));
-    d->ui->startStopSimulationButton->setText(text("Simulation beenden"));
+    d->ui->startStopSimulationButton->setText(QCoreApplication::translate("GUI", "Simulation starten"));
+    d->ui->startStopSimulationButton->setText(QCoreApplication::translate("GUI", "Simulation beenden"));
     d->setAlarmButtonTexts();
     d->loadAlarms();
     d->setTitle();
@@ -152,7 +147,7 @@ MainWindowPrivate::MainWindowPrivate(MainWindow *window) : QObject(window), q(wi
     ui = std::make_unique<Ui::MainWindow>();
     ui->setupUi(q);
     connect(ui->startStopSimulationButton, &QPushButton::clicked, this, &MainWindowPrivate::toggleSimulation);
-    ui->startStopSimulationButton->setText(text("Simulation starten"));
+    ui->startStopSimulationButton->setText(QCoreApplication::translate("GUI", "Simulation starten"));
     setAlarmButtonTexts();
     connect(ui->raiseAlarmButton, SIGNAL(clicked()), q, SIGNAL(injectAlarmRequested()));
     connect(ui->removeAlarmButton, SIGNAL(clicked()), q, SIGNAL(removeAlarmRequested()));
@@ -166,10 +161,10 @@ MainWindowPrivate::~MainWindowPrivate() = default;
 void MainWindowPrivate::toggleSimulation()
 {
     if (running) {
-        ui->startStopSimulationButton->setText(text("Simulation starten"));
+        ui->startStopSimulationButton->setText(QCoreApplication::translate("GUI", "Simulation starten"));
         emit q->stopRequested();
     } else {
-        ui->startStopSimulationButton->setText(text("Simulation beenden"));
+        ui->startStopSimulationButton->setText(QCoreApplication::translate("GUI", "Simulation beenden"));
         emit q->startRequested();
     }
     running = !running;
@@ -183,8 +178,8 @@ void MainWindowPrivate::setTitle()
 
 void MainWindowPrivate::setAlarmButtonTexts()
 {
-    ui->raiseAlarmButton->setText(text("Alarm auslösen"));
-    ui->removeAlarmButton->setText(text("Alarm beenden"));
+    ui->raiseAlarmButton->setText(QCoreApplication::translate("GUI", "Alarm auslösen"));
+    ui->removeAlarmButton->setText(QCoreApplication::translate("GUI", "Alarm beenden"));
 }
 
 void MainWindowPrivate::changeAlarmId()
@@ -238,7 +233,7 @@ void MainWindowPrivate::fillAlarmPicker(const QMap<QString, QString> &entries)
     for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry) {
         addItem(ui->alarmList, entry.value(), entry.key());
     }
-    ui->alarmList->setAccessibleName(text("Alarm"));
+    ui->alarmList->setAccessibleName(QCoreApplication::translate("GUI", "Alarm"));
 }
 
 void MainWindowPrivate::fillImportancePicker()
@@ -250,14 +245,14 @@ void MainWindowPrivate::fillImportancePicker()
     addItem(ui->alarmImportance, QStringLiteral("WARN"), 4);
     addItem(ui->alarmImportance, QStringLiteral("NOTICE"), 5);
     addItem(ui->alarmImportance, QStringLiteral("INFO"), 6);
-    ui->alarmImportance->setAccessibleName(text("Wichtigkeit"));
+    ui->alarmImportance->setAccessibleName(QCoreApplication::translate("GUI", "Wichtigkeit"));
 }
 
 void MainWindowPrivate::fillActionPicker()
 {
     ui->alarmAction->clear();
-    addItem(ui->alarmAction, text("Bestätigung"), 1);
-    addItem(ui->alarmAction, text("Keine Bestätigung"), 0);
-    addItem(ui->alarmAction, text("In Liste anzeigen"), 16);
-    ui->alarmAction->setAccessibleName(text("Aktion"));
+    addItem(ui->alarmAction, QCoreApplication::translate("GUI", "Bestätigung"), 1);
+    addItem(ui->alarmAction, QCoreApplication::translate("GUI", "Keine Bestätigung"), 0);
+    addItem(ui->alarmAction, QCoreApplication::translate("GUI", "In Liste anzeigen"), 16);
+    ui->alarmAction->setAccessibleName(QCoreApplication::translate("GUI", "Aktion"));
 }

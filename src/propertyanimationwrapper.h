@@ -17,7 +17,7 @@ class VarnoModbusTcpSlave;
 class PropertyAnimationWrapper : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(QVariant value READ value WRITE setValue)
+    Q_PROPERTY(QVariant value READ value WRITE setValue) // clazy:exclude=qproperty-without-notify
 
 public:
     explicit PropertyAnimationWrapper(QObject *parent = nullptr);

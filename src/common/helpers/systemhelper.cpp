@@ -120,14 +120,14 @@ QString SystemHelper::getIdentifier()
                             << "create an uncached identifier.";
         return newIdentifier();
     }
-    const QString identifier = QString::fromUtf8(cache.readAll());
+    QString identifier = QString::fromUtf8(cache.readAll());
     qCInfo(lcModbus) << "Cached ID:" << identifier;
     return identifier;
 }
 
 QString SystemHelper::machineId()
 {
-    const QString id = rawMachineId().remove(QLatin1Char('"')).trimmed();
+    QString id = rawMachineId().remove(QLatin1Char('"')).trimmed();
     if (id.isEmpty()) {
         qWarning() << "No machine id found!";
     }

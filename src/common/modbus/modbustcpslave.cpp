@@ -23,7 +23,7 @@ enum FunctionCode : quint8 {
 };
 
 // A request takes 260 bytes at the most; what a master sends beyond this before it is served waits in TCP.
-constexpr qint64 readBufferSize = 64 * 1024;
+constexpr qint64 readBufferSize = 65536;
 
 constexpr int acceptRetryMs = 1000;
 
@@ -214,10 +214,11 @@ void ModbusTcpSlavePrivate::handleReadHoldingRegisters(QTcpSocket *socket,
 
     // Counts beyond the 125 of the Modbus standard are served too; the byte count then wraps.
     QByteArray data(2 * count + 1, Qt::Uninitialized);
-    data[0] = static_cast<char>(2 * count);
-    for (int i = 0; i < count; ++i) {
+    char *word = data.data();
+    *word++ = static_cast<char>(2 * count);
+    for (int i = 0; i < count; ++i, word += 2) {
         const QVariant value = q->holdingRegister(static_cast<quint16>(start + i));
-        qToBigEndian(static_cast<quint16>(valueBits(value)), data.data() + 1 + 2 * i);
+        qToBigEndian(static_cast<quint16>(valueBits(value)), word);
     }
 
     const QByteArray response = sendResponse(socket, request, data);
@@ -245,9 +246,10 @@ void ModbusTcpSlavePrivate::handleWriteMultipleRegisters(QTcpSocket *socket,
     }
     qCDebug(lcModbus) << "Requested writing" << count << "registers, starting from" << start << ".";
 
-    for (int i = 0; i < count; ++i) {
-        const auto value = qFromBigEndian<quint16>(fields.constData() + valuesOffset + 2 * i);
-        q->setHoldingRegister(static_cast<quint16>(start + i), static_cast<int>(value));
+    const char *word = fields.constData() + valuesOffset;
+    for (int i = 0; i < count; ++i, word += 2) {
+        q->setHoldingRegister(static_cast<quint16>(start + i),
+                              static_cast<int>(qFromBigEndian<quint16>(word)));
     }
 
     // The device echoes both fields with their bytes swapped, and its masters expect that.

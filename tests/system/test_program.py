@@ -1,0 +1,135 @@
+# SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+# SPDX-License-Identifier: MIT
+"""The built program as its user and a standard Modbus client meet it."""
+
+import ctypes
+import json
+import os
+import pathlib
+import re
+import socket
+import struct
+import subprocess
+import unittest
+
+import harness
+
+CHANNEL = pathlib.Path(os.environ["TMPDIR"], "RavelMonitorOrbisSimulator")
+CONFIGURATION = pathlib.Path(os.environ["PROGRAMDATA"], "Pelmora/Ravel Monitor Orbis Simulator")
+
+
+def send_url(url):
+    """Hands a URL to the running instance: one byte array behind its 32-bit length."""
+    with socket.socket(socket.AF_UNIX) as channel:
+        channel.connect(str(CHANNEL))
+        channel.sendall(struct.pack(">I", len(url)) + url)
+        return channel.recv(1) # the instance closes the connection
+
+
+def ask(master, function_code, data):
+    master.sendall(bytes.fromhex("000100000006 01") + bytes([function_code]) + bytes.fromhex(data))
+    return master.recv(1024)[8:]
+
+
+class Program(unittest.TestCase):
+    def start(self, *arguments, environment=None):
+        simulator = harness.start(arguments, environment)
+        self.addCleanup(simulator.stop)
+        return simulator
+
+    def connect(self):
+        master = harness.wait_until(self.try_to_connect, "port 502")
+        self.addCleanup(master.close)
+        return master
+
+    def try_to_connect(self):
+        try:
+            return socket.create_connection(("127.0.0.1", 502), harness.DEADLINE)
+        except ConnectionRefusedError:
+            return None
+
+    def test_identity_and_settings(self):
+        first = self.start()
+        serial_number = ask(self.connect(), 103, "1627")
+        self.assertEqual(serial_number.decode(), (CONFIGURATION / "sn_cache").read_text())
+        first.wait_for_log("Failed reading bucket snapshot from")
+        first.wait_for_log('Successfully set language to "de_DE"')
+        first.stop()
+
+        settings = CONFIGURATION / "Ravel Monitor Orbis Simulator.json"
+        settings.write_text(json.dumps({"native:///language": "en_GB", "odd": 1}))
+        self.addCleanup(settings.unlink)
+        second = self.start()
+        self.assertEqual(ask(self.connect(), 103, "1627"), serial_number)
+        second.wait_for_log('Language from config file: "en_GB"')
+        second.wait_for_log('Snapshot key "odd" is malformed.')
+
+    def test_command_line(self):
+        simulator = self.start("--sn", "ABC123", "--language", "en_US", "--factorytech",
+                               environment={"TP_PD": "other"})
+        self.assertEqual(ask(self.connect(), 103, "1627"), b"ABC123")
+        simulator.wait_for_log('Successfully set language to "en_US"')
+        simulator.wait_for_log('Cannot parse event signature "0x3102000b-abscheider"')
+        self.assertTrue((CONFIGURATION / "other").is_dir())
+        self.assertFalse((CONFIGURATION / "other/sn_cache").exists())
+
+    def test_second_instance(self):
+        first = self.start()
+        self.connect()
+        second = subprocess.run(harness.command(), stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                                timeout=harness.DEADLINE, check=False)
+        self.assertEqual(second.returncode, 0)
+        lines = re.findall(r"^(?:core|notifier): (.*)|(This is the first instance)", second.stdout, re.MULTILINE)
+        self.assertEqual([line for line, _ in lines], ["Checking for previous instance...",
+                         'Sending url "" to "RavelMonitorOrbisSimulator"',
+                         "Second instance detected! Shutting down!"])
+        first.wait_for_log("This is the first instance")
+
+        # Whatever else comes over the channel, the next URL is understood.
+        for message in [b"", b"\0", b"\xff\xff\xff\xf0", b"\0\0\0\x10half"]:
+            with socket.socket(socket.AF_UNIX) as channel:
+                channel.connect(str(CHANNEL))
+                channel.sendall(message)
+        send_url(b"sim://x/change_lang/en_GB")
+        first.wait_for_log('Changing Language to "en_GB"')
+        send_url(b"sim://x/nowhere")
+        first.wait_for_log('Could not interpret URL QUrl("sim://x/nowhere")')
+
+    def test_ends_cleanly_with_masters_connected(self):
+        simulator = self.start()
+        master = self.connect()
+        self.assertEqual(ask(master, 3, "07F00002").hex(), "04000040a0")
+        self.assertEqual(simulator.terminate(), 0)
+        self.assertFalse("Sanitizer" in simulator.log(), simulator.log())
+
+    def test_inaccessible_configuration(self):
+        program = subprocess.run(harness.command(), env={**os.environ, "PROGRAMDATA": "/proc/none"}, check=False,
+                                 stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+        self.assertNotEqual(program.returncode, 0)
+        self.assertIn("Configuration path is inaccessible.", program.stdout)
+
+    def test_standard_clients(self):
+        self.start()
+        self.connect()
+        mbpoll = subprocess.run("mbpoll -0 -1 -t 4:float -r 2032 -c 1 127.0.0.1".split(), stdout=subprocess.PIPE,
+                                text=True, check=True)
+        self.assertRegex(mbpoll.stdout, r"\[2032\]: \s*5\b")
+
+        modbus = ctypes.CDLL("libmodbus.so.5")
+        modbus.modbus_new_tcp.restype = ctypes.c_void_p
+        context = ctypes.c_void_p(modbus.modbus_new_tcp(b"127.0.0.1", 502))
+        self.assertEqual(modbus.modbus_connect(context), 0)
+        words = (ctypes.c_uint16 * 4)()
+        self.assertEqual(modbus.modbus_read_registers(context, 4040, 4, words), 4)
+        self.assertEqual(list(words), [0, 0x40C0, 0, 0x4100])
+        # The client complains about the swapped echo, but the set points are written.
+        modbus.modbus_write_registers(context, 4040, 2, (ctypes.c_uint16 * 2)(0, 0x4040))
+        modbus.modbus_flush(context)
+        self.assertEqual(modbus.modbus_read_registers(context, 4040, 4, words), 4)
+        self.assertEqual(list(words), [0, 0x4040, 0, 0x4100])
+        modbus.modbus_close(context)
+        modbus.modbus_free(context)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,48 @@
+# SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+# SPDX-License-Identifier: MIT
+"""Every language has every text, finished, and no text that nothing asks for."""
+
+import json
+import pathlib
+import re
+import unittest
+import xml.etree.ElementTree as ElementTree
+
+ROOT = pathlib.Path(__file__).parents[2]
+LANGUAGES = ["de_DE", "en_GB", "en_US", "es_ES", "fr_FR", "it_IT", "nl_NL"]
+
+
+def translations(name, context):
+    """Source texts and translations of one file; an unfinished entry counts as missing."""
+    tree = ElementTree.parse(ROOT / "i18n" / name)
+    assert [element.text for element in tree.iter("name")] == [context], name
+    return [
+        (message.findtext("source"), message.findtext("translation"))
+        for message in tree.iter("message")
+        if message.find("translation").get("type") is None and message.findtext("translation")
+    ]
+
+
+class Translations(unittest.TestCase):
+    def check(self, kind, context, wanted):
+        files = sorted(path.name for path in (ROOT / "i18n").glob(kind + "_*.ts"))
+        self.assertEqual(files, [f"{kind}_{language}.ts" for language in LANGUAGES])
+        for file in files:
+            with self.subTest(file):
+                texts = translations(file, context)
+                self.assertEqual(sorted(source for source, _ in texts), sorted(wanted))
+                self.assertFalse([source for source, text in texts if context != "GUI" and text == source])
+
+    def test_alarms(self):
+        rows = json.loads((ROOT / "resources/alarmmapping").read_bytes())
+        wanted = {row["signature"] for row in rows if re.fullmatch("0x[0-9a-fA-F]+", row["signature"])}
+        self.assertEqual(len(wanted), 151)
+        self.check("alarms", "Alarm Service", wanted)
+
+    def test_interface(self):
+        source = (ROOT / "src/mainwindow.cpp").read_text(encoding="utf-8")
+        self.check("interface", "GUI", set(re.findall(r'translate\("GUI", "(.+?)"\)', source)))
+
+
+if __name__ == "__main__":
+    unittest.main()
