@@ -4,6 +4,7 @@
 #include "common/helpers/networkhelper.h"
 
 #include "common/helpers/loggingcategories.h"
+#include "common/other/unifiedstorage.h"
 
 #include <QAbstractSocket>
 #include <QTextStream>
@@ -31,6 +32,12 @@ bool waitUntilSent(QAbstractSocket *socket)
     socket->flush();
     return isClosed(socket) || socket->bytesToWrite() == 0 || socket->waitForBytesWritten(transferTimeoutMs)
         || isClosed(socket);
+}
+
+QString proxySetting(const char *name)
+{
+    const QString key = QLatin1String("/settings/server/proxy-") + QLatin1String(name);
+    return UnifiedStorage::instance()->restore(key).toString();
 }
 
 } // namespace
@@ -115,4 +122,17 @@ QString NetworkHelper::toHexString(const QByteArray &data)
     stream.flush();
     text.chop(1);
     return text;
+}
+
+QNetworkProxy NetworkHelper::proxyFromSettings()
+{
+    QNetworkProxy proxy;
+    const QString hostName = proxySetting("hostname");
+    if (!hostName.isEmpty()) {
+        proxy.setHostName(hostName);
+        proxy.setPort(proxySetting("port").toUShort());
+        proxy.setUser(proxySetting("username"));
+        proxy.setPassword(proxySetting("password"));
+    }
+    return proxy;
 }

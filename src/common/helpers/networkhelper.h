@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QNetworkProxy>
 #include <QRegExp>
 #include <QString>
 
@@ -42,4 +43,9 @@ public:
 
     // "0x0 0x1A 0xFF": upper-case digits, unpadded, separated by blanks.
     static QString toHexString(const QByteArray &data);
+
+    // The proxy kept in the UnifiedStorage under "/settings/server/proxy-hostname", "-port", "-username" and
+    // "-password"; its type stays the default one. Without a host name nothing is set. A bad port gives port
+    // 0.
+    static QNetworkProxy proxyFromSettings();
 };
