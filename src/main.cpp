@@ -66,12 +66,12 @@ void prepareConsole()
 // thread is started: threads inherit that these signals are blocked.
 void quitOnTermination()
 {
-    sigset_t signals;
-    sigemptyset(&signals);
-    sigaddset(&signals, SIGTERM);
-    sigaddset(&signals, SIGINT);
-    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-    auto *notifier = new QSocketNotifier(signalfd(-1, &signals, SFD_CLOEXEC), QSocketNotifier::Read, qApp);
+    sigset_t requests;
+    sigemptyset(&requests);
+    sigaddset(&requests, SIGTERM);
+    sigaddset(&requests, SIGINT);
+    pthread_sigmask(SIG_BLOCK, &requests, nullptr);
+    auto *notifier = new QSocketNotifier(signalfd(-1, &requests, SFD_CLOEXEC), QSocketNotifier::Read, qApp);
     QObject::connect(notifier, &QSocketNotifier::activated, qApp, &QCoreApplication::quit);
 }
 #endif

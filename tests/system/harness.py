@@ -1,0 +1,67 @@
+# SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+# SPDX-License-Identifier: MIT
+
+"""Runs the built program for a system test.
+
+SIMULATOR names the program, SIMULATOR_LAUNCHER (optional) a command to start it through.
+"""
+
+import os
+import shlex
+import subprocess
+import sys
+import tempfile
+import time
+
+DEADLINE = 30  # seconds; generous, for loaded machines and sanitizer builds
+
+
+def wait_until(condition, what):
+    end = time.monotonic() + DEADLINE
+    while time.monotonic() < end:
+        result = condition()
+        if result:
+            return result
+        time.sleep(0.02)
+    raise AssertionError(f"waited {DEADLINE} s in vain for {what}")
+
+
+def require_namespaces():
+    """Ends the test as skipped where it has no network namespace of its own."""
+    if os.environ.get("ISOLATED") != "1":
+        print("skipped: several hosts need private network namespaces, which are refused here")
+        sys.exit(77)
+
+
+def command(*arguments):
+    return shlex.split(os.environ.get("SIMULATOR_LAUNCHER", "")) + [os.environ["SIMULATOR"], *arguments]
+
+
+class Simulator:
+    def __init__(self, arguments, environment):
+        self._log = tempfile.NamedTemporaryFile()
+        self.process = subprocess.Popen(command(*arguments), env={**os.environ, **environment}, stdin=subprocess.DEVNULL,
+                                        stdout=self._log, stderr=subprocess.STDOUT)
+
+    def log(self):
+        with open(self._log.name, encoding="utf-8", errors="replace") as log:
+            return log.read()
+
+    def wait_for_log(self, text):
+        wait_until(lambda: text in self.log() or self.process.poll() is not None, repr(text))
+        assert text in self.log(), f"ended with {self.process.poll()} without {text!r}:\n{self.log()}"
+
+    def stop(self):
+        """Ends the program, which must do so cleanly (a leak checker speaks up here); once is enough."""
+        if self.process.returncode is None:
+            assert self.process.poll() is None, f"ended on its own with {self.process.poll()}:\n{self.log()}"
+            self.process.terminate()
+            code = self.process.wait(DEADLINE)
+            assert code == 0, f"ended with {code}:\n{self.log()}"
+
+
+def start(arguments=(), environment=None):
+    """Starts the program with the arguments and additional environment; returns once it is under way."""
+    simulator = Simulator(arguments, environment or {})
+    simulator.wait_for_log("Configuration base path: ")
+    return simulator
