@@ -62,16 +62,22 @@ void prepareConsole()
     AllowSetForegroundWindow(ASFW_ANY);
 }
 #else
-// Ends the event loop, and so the program with exit code 0, when it is asked to terminate. To be called before any
-// thread is started: threads inherit that these signals are blocked.
-void quitOnTermination()
+// Descriptor on which requests to terminate can be read from now on; they no longer end the process by themselves.
+// To be called before any thread is started, and some platform plugins start one with the application object:
+// threads inherit that these signals are blocked.
+int catchTermination()
 {
     sigset_t requests;
     sigemptyset(&requests);
     sigaddset(&requests, SIGTERM);
     sigaddset(&requests, SIGINT);
     pthread_sigmask(SIG_BLOCK, &requests, nullptr);
-    auto *notifier = new QSocketNotifier(signalfd(-1, &requests, SFD_CLOEXEC), QSocketNotifier::Read, qApp);
+    return signalfd(-1, &requests, SFD_CLOEXEC);
+}
+
+void quitOnTermination(int descriptor)
+{
+    auto *notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, qApp);
     QObject::connect(notifier, &QSocketNotifier::activated, qApp, &QCoreApplication::quit);
 }
 #endif
@@ -151,6 +157,8 @@ int main(int argc, char *argv[])
 {
 #ifdef Q_OS_WIN
     prepareConsole();
+#else
+    const int termination = catchTermination();
 #endif
     QCoreApplication::setOrganizationName(QStringLiteral("Pelmora"));
     QCoreApplication::setApplicationName(QStringLiteral("Ravel Monitor Orbis Simulator"));
@@ -170,7 +178,7 @@ int main(int argc, char *argv[])
     qInfo() << "This is the first instance";
     UrlListenerPeer::instance(applicationKey())->startServer();
 #ifndef Q_OS_WIN
-    quitOnTermination();
+    quitOnTermination(termination);
 #endif
 
     const Options options = readCommandLine();
