@@ -7,6 +7,7 @@
 #include "common/helpers/loggingcategories.h"
 #include "common/helpers/systemhelper.h"
 #include "common/i18n/languagemanager.h"
+#include "common/orvet/orvetpeer.h"
 #include "common/other/unifiedstorage.h"
 #include "common/other/urllistenerpeer.h"
 #include "mainwindow.h"
@@ -27,6 +28,9 @@
 #endif
 
 namespace {
+
+constexpr quint16 orvetRequestPort = 45123;
+constexpr quint16 orvetResponsePort = 45124;
 
 struct Options
 {
@@ -62,9 +66,9 @@ void prepareConsole()
     AllowSetForegroundWindow(ASFW_ANY);
 }
 #else
-// Descriptor on which requests to terminate can be read from now on; they no longer end the process by themselves.
-// To be called before any thread is started, and some platform plugins start one with the application object:
-// threads inherit that these signals are blocked.
+// Descriptor on which requests to terminate can be read from now on; they no longer end the process by
+// themselves. To be called before any thread is started, and some platform plugins start one with the
+// application object: threads inherit that these signals are blocked.
 int catchTermination()
 {
     sigset_t requests;
@@ -129,6 +133,21 @@ void installLanguage(const QString &requested)
     manager->setLanguage(language);
 }
 
+// Makes the device known on the network. The calls reach the discovery thread in this order, which is also
+// the order in which the device lists its properties.
+void announceDevice()
+{
+    auto *peer = livesUntilExit<OrvetPeer>();
+    peer->setHostEnabled(true);
+    peer->setOrvetName(QStringLiteral("Duo Orbis 7316-20 %1").arg(SystemHelper::getIdentifier()));
+    peer->setOrvetDescription(QStringLiteral("Orbis Simulator"));
+    peer->setValue(QStringLiteral("devicetype"), QStringLiteral("21123642"));
+    peer->setValue(QStringLiteral("REF"), QStringLiteral("7316-20"));
+    peer->setValue(QStringLiteral("REF_Name"), QStringLiteral("Duo Orbis"));
+    peer->setValue(QStringLiteral("PCB_SN"), SystemHelper::getIdentifier());
+    peer->start(orvetRequestPort, orvetResponsePort);
+}
+
 void connectParts(MainWindow *window, ModbusManager *engine)
 {
     QObject::connect(window, SIGNAL(startRequested()), engine, SLOT(startAnimation()));
@@ -185,8 +204,11 @@ int main(int argc, char *argv[])
     // Not before the application object exists: with this file's plugin path it would find no platform
     // plugin.
     Q_INIT_RESOURCE(qtconfiguration);
+    qRegisterMetaType<OrvetInformation>("OrvetInformation");
+    qRegisterMetaType<OrvetPeer::OrvetError>("OrvetPeer::OrvetError");
     loadSettings();
     installLanguage(options.language);
+    announceDevice();
 
     auto *engine = livesUntilExit<ModbusManager>();
     auto *window = livesUntilExit<MainWindow>();

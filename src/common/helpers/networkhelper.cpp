@@ -6,8 +6,15 @@
 #include "common/helpers/loggingcategories.h"
 #include "common/other/unifiedstorage.h"
 
-#include <QAbstractSocket>
+#include <QNetworkInterface>
 #include <QTextStream>
+#include <QUdpSocket>
+
+#ifdef Q_OS_LINUX
+#include <net/if.h>
+#include <sys/socket.h>
+#include <unistd.h>
+#endif
 
 namespace {
 
@@ -39,6 +46,41 @@ QString proxySetting(const char *name)
     const QString key = QLatin1String("/settings/server/proxy-") + QLatin1String(name);
     return UnifiedStorage::instance()->restore(key).toString();
 }
+
+#ifdef Q_OS_LINUX
+QString interfaceWithAddress(const QHostAddress &address)
+{
+    const QList<QNetworkInterface> interfaces = QNetworkInterface::allInterfaces();
+    for (const QNetworkInterface &candidate : interfaces) {
+        const QList<QNetworkAddressEntry> entries = candidate.addressEntries();
+        for (const QNetworkAddressEntry &entry : entries) {
+            if (entry.ip() == address) {
+                return candidate.name();
+            }
+        }
+    }
+    return {};
+}
+
+// Gives the unbound socket a descriptor that sends and receives on the interface with this address only.
+// Returns false, with the socket untouched, where there is no such interface or the system refuses.
+bool tieToInterface(QUdpSocket *socket, const QHostAddress &address)
+{
+    const QByteArray name = interfaceWithAddress(address).toLatin1();
+    if (name.isEmpty()) {
+        return false;
+    }
+    const int descriptor = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    if (::setsockopt(descriptor, SOL_SOCKET, SO_BINDTODEVICE, name.constData(),
+                     static_cast<socklen_t>(name.size()))
+        != 0) {
+        qCWarning(lcNetworkHelper) << "Could not tie socket to interface" << name << qt_error_string(errno);
+        ::close(descriptor);
+        return false;
+    }
+    return socket->setSocketDescriptor(descriptor, QAbstractSocket::UnconnectedState);
+}
+#endif
 
 } // namespace
 
@@ -108,6 +150,44 @@ QRegExp NetworkHelper::netmaskPattern()
                                   "|((255\\.){2}(255|254|252|248|240|224|192|128|0+)\\.0)"
                                   "|((255\\.)(255|254|252|248|240|224|192|128|0+)(\\.0+){2})"
                                   "|((255|254|252|248|240|224|192|128|0+)(\\.0+){3}))$"));
+}
+
+QVector<NetworkHelper::InterfaceAddress> NetworkHelper::interfaceAddresses()
+{
+    QVector<InterfaceAddress> loopbacks;
+    QVector<InterfaceAddress> cards;
+    const QList<QNetworkInterface> interfaces = QNetworkInterface::allInterfaces();
+    for (const QNetworkInterface &candidate : interfaces) {
+        const bool isLoopback = candidate.flags().testFlag(QNetworkInterface::IsLoopBack);
+        QString hardwareAddress = candidate.hardwareAddress();
+        if (isLoopback && hardwareAddress.isEmpty()) {
+            hardwareAddress = QStringLiteral("00:00:00:00:00:00");
+        }
+        if (!candidate.flags().testFlag(QNetworkInterface::IsUp)
+            || !candidate.flags().testFlag(QNetworkInterface::IsRunning)
+            || !isValidMacAddress(hardwareAddress)) {
+            continue;
+        }
+        const QList<QNetworkAddressEntry> entries = candidate.addressEntries();
+        for (const QNetworkAddressEntry &entry : entries) {
+            if (entry.ip().protocol() == QAbstractSocket::IPv4Protocol) {
+                (isLoopback ? loopbacks : cards).append({entry, hardwareAddress});
+            }
+        }
+    }
+    return loopbacks + cards;
+}
+
+bool NetworkHelper::bindToInterface(QUdpSocket *socket, const QHostAddress &address, quint16 port)
+{
+    QHostAddress local = address;
+#ifdef Q_OS_LINUX
+    // A socket bound to the address itself would hear no limited broadcast here. Windows delivers them.
+    if (tieToInterface(socket, address)) {
+        local = QHostAddress(QHostAddress::AnyIPv4);
+    }
+#endif
+    return socket->bind(local, port, QUdpSocket::ShareAddress | QUdpSocket::ReuseAddressHint);
 }
 
 QString NetworkHelper::toHexString(const QByteArray &data)

@@ -4,11 +4,15 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHostAddress>
+#include <QNetworkAddressEntry>
 #include <QNetworkProxy>
 #include <QRegExp>
 #include <QString>
+#include <QVector>
 
 class QAbstractSocket;
+class QUdpSocket;
 
 // Stateless network operations: blocking transfer of one packet, validation of address texts.
 //
@@ -18,6 +22,13 @@ class QAbstractSocket;
 class NetworkHelper
 {
 public:
+    // An IPv4 address of this machine and the hardware address of the interface that holds it.
+    struct InterfaceAddress
+    {
+        QNetworkAddressEntry entry;
+        QString hardwareAddress;
+    };
+
     NetworkHelper() = delete;
 
     // Writes data to the socket. It is not a failure when the peer has closed the connection meanwhile. After
@@ -40,6 +51,16 @@ public:
 
     // Contiguous IPv4 netmask in dotted form.
     static QRegExp netmaskPattern();
+
+    // The IPv4 addresses of all interfaces that are up and running and have a hardware address, in the
+    // system's order, but those of the loopback interface come first. It goes by 00:00:00:00:00:00 where the
+    // system reports no hardware address for it.
+    static QVector<InterfaceAddress> interfaceAddresses();
+
+    // Binds the socket, which shares the port with other programs, so that it hears the broadcasts that
+    // arrive on the interface with this address, limited ones included, and sends its own there. With the any
+    // address that is every interface, and the default route for sending.
+    static bool bindToInterface(QUdpSocket *socket, const QHostAddress &address, quint16 port);
 
     // "0x0 0x1A 0xFF": upper-case digits, unpadded, separated by blanks.
     static QString toHexString(const QByteArray &data);
