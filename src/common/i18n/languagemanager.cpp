@@ -70,7 +70,7 @@ void LanguageManagerPrivate::init(const QStringList &paths)
 
 QString LanguageManagerPrivate::systemLanguage() const
 {
-    const QString name = QLocale::system().name();
+    QString name = QLocale::system().name();
     qCInfo(lcI18n) << "Language from system:" << name;
     if (m_translators.contains(name)) {
         return name;
@@ -167,7 +167,7 @@ QStringList LanguageManagerPrivate::availableLanguages() const
 
 QLocale LanguageManagerPrivate::locale() const
 {
-    return QLocale(m_currentLanguage);
+    return {m_currentLanguage};
 }
 
 LanguageManager::LanguageManager(const QString &path, QObject *parent)
@@ -191,7 +191,7 @@ QString LanguageManager::findTranslations(const QString &baseDirectory)
     const QStringList candidates{QStringLiteral("./i18n"), QStringLiteral("../install/i18n"),
                                  QStringLiteral("../../install/i18n"), QStringLiteral("../src/i18n")};
     for (const QString &candidate : candidates) {
-        const QString path = QStringLiteral("%1/%2").arg(baseDirectory, candidate);
+        QString path = QStringLiteral("%1/%2").arg(baseDirectory, candidate);
         if (QDir().exists(path)) {
             return path;
         }
@@ -240,8 +240,11 @@ void LanguageManager::storeLanguage()
 
 QString LanguageManager::languageName(const QString &code) const
 {
-    const QString name = QLocale(code).nativeLanguageName();
-    return name.left(1).toUpper() + name.mid(1);
+    QString name = QLocale(code).nativeLanguageName();
+    if (!name.isEmpty()) {
+        name[0] = name.at(0).toUpper();
+    }
+    return name;
 }
 
 QString LanguageManager::localDateTimeString(const QDateTime &dateTime) const

@@ -43,6 +43,19 @@ public:
     // Empty until a language was set.
     QString currentLanguage() const;
 
+    // Name of the language in the language itself, with a capital first letter.
+    Q_INVOKABLE QString languageName(const QString &code) const;
+
+    // Texts in the short format of the current language; empty for an invalid date or time. UTC is turned
+    // into local time, and a date-time at midnight sharp gives the date alone.
+    Q_INVOKABLE QString localDateTimeString(const QDateTime &dateTime) const;
+    Q_INVOKABLE QString localDateString(const QDate &date) const;
+    Q_INVOKABLE QString localDateStringFromIsoString(const QString &date) const;
+    Q_INVOKABLE QString localDateTimeStringFromUtcString(const QString &dateTime) const;
+    Q_INVOKABLE QString localDateStringFromDateTime(const QDateTime &dateTime) const;
+    Q_INVOKABLE QString localTimeStringFromDateTime(const QDateTime &dateTime) const;
+    Q_INVOKABLE QString localTimeString(const QTime &time) const;
+
 signals:
     void languageChanged(const QString &code);
     void availableLanguagesChanged(const QStringList &languages);
@@ -58,20 +71,6 @@ public slots:
     void setLanguage(const QString &code);
     void storeLanguage();
 
-public:
-    // Name of the language in the language itself, with a capital first letter.
-    Q_INVOKABLE QString languageName(const QString &code) const;
-
-    // Texts in the short format of the current language; empty for an invalid date or time. UTC is turned
-    // into local time, and a date-time at midnight sharp gives the date alone.
-    Q_INVOKABLE QString localDateTimeString(const QDateTime &dateTime) const;
-    Q_INVOKABLE QString localDateString(const QDate &date) const;
-    Q_INVOKABLE QString localDateStringFromIsoString(const QString &date) const;
-    Q_INVOKABLE QString localDateTimeStringFromUtcString(const QString &dateTime) const;
-    Q_INVOKABLE QString localDateStringFromDateTime(const QDateTime &dateTime) const;
-    Q_INVOKABLE QString localTimeStringFromDateTime(const QDateTime &dateTime) const;
-    Q_INVOKABLE QString localTimeString(const QTime &time) const;
-
 private:
-    LanguageManagerPrivate *d;
+    LanguageManagerPrivate *const d;
 };

@@ -22,7 +22,6 @@ class LanguageManagerPrivate : public QObject
 public:
     explicit LanguageManagerPrivate(LanguageManager *owner);
     ~LanguageManagerPrivate() override;
-    Q_DISABLE_COPY_MOVE(LanguageManagerPrivate)
 
     void init(const QStringList &paths);
     void setLanguage(const QString &code);
@@ -32,7 +31,7 @@ public:
     QMultiMap<QString, QTranslator *> m_translators; // by language code
     QList<QTranslator *> m_installed;
     QString m_currentLanguage;
-    LanguageManager *q;
+    LanguageManager *const q;
 
 private:
     void initializeTranslators(const QStringList &paths);

@@ -27,10 +27,9 @@
 namespace {
 
 // How a member of a snapshot holds its value is the scheme in front of its key.
-constexpr QLatin1String nativeScheme("native://"); // as JSON
-constexpr QLatin1String
-    mappedScheme("mapped://"); // as a JSON object, with "?" and the type's name behind the key
-constexpr QLatin1String binaryScheme("binary://"); // as the Base64 text of its QDataStream form
+const QLatin1String nativeScheme("native://"); // as JSON
+const QLatin1String mappedScheme("mapped://"); // as a JSON object; the key has "?" and the type behind it
+const QLatin1String binaryScheme("binary://"); // as the Base64 text of its QDataStream form
 
 // QMetaType normalises the names it is asked for, one level of recursion a template argument.
 constexpr int maxTypeNameLength = 100;
@@ -108,7 +107,7 @@ QVariant variantFromJson(const QJsonValue &json)
     if (json.isArray()) {
         QVariantList list;
         const QJsonArray array = json.toArray();
-        for (const QJsonValue element : array) {
+        for (const auto &element : array) {
             list.append(variantFromJson(element));
         }
         return list;

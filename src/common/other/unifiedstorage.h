@@ -26,7 +26,6 @@ public:
 
     // Waits for saves that still run.
     ~UnifiedStorage() override;
-    Q_DISABLE_COPY_MOVE(UnifiedStorage)
 
     // Ends the process with a fatal message when there is no storage yet.
     static UnifiedStorage *instance();
@@ -66,5 +65,5 @@ public slots:
     void fixOldKeynames();
 
 private:
-    UnifiedStoragePrivate *d;
+    UnifiedStoragePrivate *const d;
 };

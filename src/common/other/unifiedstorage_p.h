@@ -19,7 +19,6 @@ class UnifiedStoragePrivate : public QObject
 public:
     explicit UnifiedStoragePrivate(UnifiedStorage *owner);
     ~UnifiedStoragePrivate() override;
-    Q_DISABLE_COPY_MOVE(UnifiedStoragePrivate)
 
     // Types whose values a snapshot holds as JSON objects. The registry is process-wide and has no lock: it
     // is filled on the main thread, before anything is saved.
@@ -36,5 +35,5 @@ public:
 
     QHash<QString, QVariant> m_data;
     QReadWriteLock m_lock; // guards m_data
-    UnifiedStorage *q;
+    UnifiedStorage *const q;
 };

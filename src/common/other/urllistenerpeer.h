@@ -42,5 +42,5 @@ signals:
     void urlReceived(const QUrl &url);
 
 private:
-    UrlListenerPeerPrivate *d;
+    UrlListenerPeerPrivate *const d;
 };

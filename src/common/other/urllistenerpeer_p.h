@@ -19,12 +19,11 @@ class UrlListenerPeerPrivate : public QObject
 public:
     UrlListenerPeerPrivate(UrlListenerPeer *owner, const QString &name);
     ~UrlListenerPeerPrivate() override;
-    Q_DISABLE_COPY_MOVE(UrlListenerPeerPrivate)
 
     QLocalServer m_server;
     QDataStream m_stream; // has a device only while a message is read
     QString m_name;
-    UrlListenerPeer *q;
+    UrlListenerPeer *const q;
 
 signals:
     // Another instance has connected, whatever it sends.
