@@ -17,7 +17,7 @@ constexpr int interfaceCheckIntervalMs = 30000;
 
 // A flood must not hold up the calls queued to this thread, for which the window may be waiting. What is left
 // in the socket announces itself again.
-constexpr int datagramsPerTurn = 16;
+constexpr int datagramsPerTurn = 4;
 
 bool isSameHardware(const QString &address, const QString &other)
 {

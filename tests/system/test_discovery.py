@@ -1,0 +1,96 @@
+# SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+# SPDX-License-Identifier: MIT
+
+"""Another host, connected to this one by a bridge, discovers the running program."""
+
+import ctypes
+import os
+import select
+import socket
+import subprocess
+import unittest
+
+import harness
+
+NEW_NETWORK = 0x40000000  # CLONE_NEWNET
+TITLE = b"\tDuo Orbis 7316-20 ABC123\tOrbis Simulator"
+PROPERTIES = (b"\tdhcp=off\ndevicetype=21123642\nREF=7316-20\nREF_Name=Duo Orbis\nPCB_SN=ABC123\n"
+              b"addr1=127.0.0.1\nmask1=255.0.0.0\n")
+
+
+class OtherHost:
+    """A network namespace of its own. Sockets and commands made in "with" belong to it."""
+
+    def __init__(self):
+        self._enter = ctypes.CDLL(None).setns
+        self._home = os.open("/proc/self/ns/net", os.O_RDONLY)
+        ctypes.CDLL(None).unshare(NEW_NETWORK)
+        self.path = f"/proc/{os.getpid()}/fd/{os.open('/proc/self/ns/net', os.O_RDONLY)}"
+        with self:
+            run("ip link add lan type bridge; ip address add 192.168.7.9/24 dev lan; ip link set lan up;"
+                "ip route add default dev lan")
+
+    def __enter__(self):
+        self._enter(int(self.path.rpartition("/")[2]), NEW_NETWORK)
+
+    def __exit__(self, *_):
+        self._enter(self._home, NEW_NETWORK)
+
+    def plug_in(self, card):
+        run(f"ip link add card{card} address 02:00:00:00:00:0{card} type veth peer port{card} netns {self.path};"
+            f"ip address add 192.168.7.{card}/24 dev card{card}; ip link set card{card} up")
+        with self:
+            run(f"ip link set port{card} master lan up")
+        run(f"until ip link show card{card} | grep -q 'state UP'; do sleep 0.1; done")
+
+    def bind(self, port):
+        with self:
+            result = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
+        result.setsockopt(socket.SOL_SOCKET, socket.SO_BROADCAST, 1)
+        result.settimeout(harness.DEADLINE)
+        result.bind(("", port))
+        return result
+
+
+def run(script):
+    subprocess.run(["sh", "-ec", script], check=True)
+
+
+class Discovery(unittest.TestCase):
+    def test_device_is_found_through_one_and_two_cards(self):
+        host = OtherHost()
+        for cards in (1, 2):
+            host.plug_in(cards)
+            if cards == 1:
+                run("ip route add default dev card1")
+            simulator = harness.start(["--sn", "ABC123"])
+            simulator.wait_for_log(f'Added port for device "02:00:00:00:00:0{cards}"')
+            with host.bind(0) as requester, host.bind(45124) as responses:
+                self.check_answers(requester, responses, cards)
+            simulator.stop()
+
+    def check_answers(self, requester, responses, cards):
+        def ask(request):
+            requester.sendto(request, ("255.255.255.255", 45123))
+
+        # The loopback interface stands for all cards: it hears the request on each and answers with no address.
+        expected = [b"d 00:00:00:00:00:00 0.0.0.0" + TITLE] * cards
+        expected += [b"d 02:00:00:00:00:0%d 192.168.7.%d" % (card, card) + TITLE for card in range(1, cards + 1)]
+        ask(b"D anna@PC1")
+        self.assertEqual(sorted(responses.recv(65536) for _ in expected), expected)
+
+        for silent in (b"", b"E", b"P 02:00:00:00:00:01 REF=x", b"A 02:00:00:00:00:01 REF=x", b"G", b"\xff",
+                       b"G 02:00:00:00:00:09", b"G" * 65507):
+            for _ in range(200):
+                ask(silent)
+
+        def properties():
+            ask(b"G 02:00:00:00:00:01")  # may get lost while the flood is being worked off
+            return select.select([responses], [], [], 0.2)[0] and responses.recv(65536)
+
+        self.assertEqual(harness.wait_until(properties, "the properties"), b"g 02:00:00:00:00:01" + PROPERTIES)
+
+
+if __name__ == "__main__":
+    harness.require_namespaces()
+    unittest.main()
