@@ -56,9 +56,8 @@ void TestLanguageManager::translate(const QStringList &stems)
     for (const QString &stem : stems) {
         QFile source(m_path + "/"_s + stem + ".ts"_s);
         QVERIFY(QDir().mkpath(QFileInfo(source).path()) && source.open(QIODevice::WriteOnly));
-        source.write(
-            "<TS version=\"2.1\"><context><name>GUI</name><message><source>Hallo</source><translation>"
-            + stem.toUtf8() + "</translation></message></context></TS>");
+        source.write("<TS version=\"2.1\"><context><name>GUI</name><message><source>Hallo</source><translation>" + stem.toUtf8()
+                     + "</translation></message></context></TS>");
         source.close();
         QCOMPARE(QProcess::execute(QStringLiteral(LRELEASE), {"-silent"_s, source.fileName()}), 0);
     }
@@ -71,8 +70,7 @@ QString TestLanguageManager::choice(const QStringList &available, const QString 
     translate(available);
     m_storage.store("/language"_s, stored);
     const LanguageManager manager(m_path, nullptr);
-    const bool isInForce =
-        hello() == manager.currentLanguage() && m_storage.restore("/language"_s) == hello();
+    const bool isInForce = hello() == manager.currentLanguage() && m_storage.restore("/language"_s) == hello();
     return isInForce ? hello() : "none"_s;
 }
 
@@ -93,10 +91,9 @@ void TestLanguageManager::loading()
     QVERIFY(empty.open(QIODevice::WriteOnly));
     QVERIFY(empty.write(QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd")) == 16 && empty.flush());
     QVERIFY(QFile::rename(m_path + "/en_GB.ts"_s, m_path + "/text.qm"_s));
-    for (const QString &line : {"Failed loading because language is empty from \"%1/app/empty.qm\""_s,
-                                "Failed loading language from \"%1/app/text.qm\""_s,
-                                "Failed loading language from \"%1/qt/qt_en.qm\""_s,
-                                "The path \"%1/app/missing\" doesn't exist."_s}) {
+    for (const QString &line :
+         {"Failed loading because language is empty from \"%1/app/empty.qm\""_s, "Failed loading language from \"%1/app/text.qm\""_s,
+          "Failed loading language from \"%1/qt/qt_en.qm\""_s, "The path \"%1/app/missing\" doesn't exist."_s}) {
         QTest::ignoreMessage(QtWarningMsg, qPrintable(line.arg(m_directory->path())));
     }
     LanguageManager manager({m_path, m_path + "/missing"_s, m_path + "/../unvisited"_s}, nullptr);

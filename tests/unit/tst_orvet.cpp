@@ -69,8 +69,7 @@ int socketCount(OrvetPeerWorker &worker)
 
 QString summary(const OrvetInformation &device)
 {
-    return QStringList({device.hardwareAddress, device.ipAddress, device.name, device.description})
-        .join(QLatin1Char('|'));
+    return QStringList({device.hardwareAddress, device.ipAddress, device.name, device.description}).join(QLatin1Char('|'));
 }
 
 } // namespace
@@ -116,11 +115,9 @@ void TestOrvet::parseDiscoverResponse_data()
     };
     row("space form", "d 00:11:22:33:44:55 1.2.3.4\tBox\tLab", "", "00:11:22:33:44:55|1.2.3.4|Box|Lab");
     row("tab form", "d 00:11:22:33:44:55\t1.2.3.4\tBox\tLab", "", "00:11:22:33:44:55|1.2.3.4|Box|Lab");
-    row("cleaned", "d 0A:BB:CC:DD:EE:FF 1.2.3.4\t Big \n box\tIn  it ", "",
-        "0a:bb:cc:dd:ee:ff|1.2.3.4|Big box|In it");
+    row("cleaned", "d 0A:BB:CC:DD:EE:FF 1.2.3.4\t Big \n box\tIn  it ", "", "0a:bb:cc:dd:ee:ff|1.2.3.4|Big box|In it");
     row("nobody's address", "d 00:11:22:33:44:55 0.0.0.0\tBox\tLab", "", "");
-    row("one text is the name", "d 00:11:22:33:44:55 1.2.3.4\tBox",
-        R"(Packet contains no device name "d 00:11:22:33:44:55 1.2.3.4\tBox")",
+    row("one text is the name", "d 00:11:22:33:44:55 1.2.3.4\tBox", R"(Packet contains no device name "d 00:11:22:33:44:55 1.2.3.4\tBox")",
         "00:11:22:33:44:55|1.2.3.4|Box|");
     row("shifted", "d 00:11:22:33:44:55\t\t1.2.3.4\tBox", "", "00:11:22:33:44:55|1.2.3.4|1.2.3.4|Box");
     row("no texts", "d 00:11:22:33:44:55\t1.2.3.4",
@@ -128,8 +125,8 @@ void TestOrvet::parseDiscoverResponse_data()
         "00:11:22:33:44:55|1.2.3.4||");
     row("no tab", "d 00:11:22 1.2", R"(Invalid packet format "d 00:11:22 1.2")", "");
     row("words", "d a b c\tBox", R"(Invalid packet format "d a b c\tBox" packet format not identified.)", "");
-    row("no hardware address", "d zz:11 1.2.3.4\tBox",
-        R"(Invalid packet format "d zz:11 1.2.3.4\tBox" hardware address invalid "zz:11")", "");
+    row("no hardware address", "d zz:11 1.2.3.4\tBox", R"(Invalid packet format "d zz:11 1.2.3.4\tBox" hardware address invalid "zz:11")",
+        "");
     row("another type", "g 00:11:22:33:44:55\t", "Invalid use of this method, invalid packet type.", "");
 }
 
@@ -146,8 +143,7 @@ void TestOrvet::parseDiscoverResponse()
 
 void TestOrvet::parseGetResponse()
 {
-    const auto device =
-        OrvetPackets::parseGetResponse("g 0A:11:22:33:44:55\ta=0\na=1\nb=\nc\n d = 4 \ne=5=5\n");
+    const auto device = OrvetPackets::parseGetResponse("g 0A:11:22:33:44:55\ta=0\na=1\nb=\nc\n d = 4 \ne=5=5\n");
     QCOMPARE(device.hardwareAddress, "0a:11:22:33:44:55"_s);
     QCOMPARE(device.properties, QVariantMap({{"a"_s, "1"_s}, {"b"_s, ""_s}, {"d "_s, " 4"_s}}));
     QCOMPARE(OrvetPackets::parseGetResponse("g 0A").hardwareAddress, "g 0a"_s);
@@ -167,9 +163,8 @@ void TestOrvet::requestsOnTheWire()
     peer.put(card2, {{"b"_s, "2"_s}, {"a"_s, "1"_s}});
     peer.apply(card2, "key"_s, "%1"_s);
     peer.apply(card2, {});
-    for (const char *expected :
-         {"G 02:00:00:00:00:A2", "P 02:00:00:00:00:A2 key=\xC3\xA4", "P 02:00:00:00:00:A2 a=1\nb=2",
-          "A 02:00:00:00:00:A2 key=%1", "A 02:00:00:00:00:A2 "}) {
+    for (const char *expected : {"G 02:00:00:00:00:A2", "P 02:00:00:00:00:A2 key=\xC3\xA4", "P 02:00:00:00:00:A2 a=1\nb=2",
+                                 "A 02:00:00:00:00:A2 key=%1", "A 02:00:00:00:00:A2 "}) {
         QByteArray request = received(requests);
         while (request.startsWith('D')) {
             request = received(requests);
@@ -200,8 +195,7 @@ void TestOrvet::answersOnTheWire()
     QTest::ignoreMessage(QtWarningMsg,
                          "Received invalid request type."); // once for each socket that hears it
     QTest::ignoreMessage(QtWarningMsg, "Received invalid request type.");
-    for (const char *silent : {"", "X", "E", "P 02:00:00:00:00:A1 z=9", "A 02:00:00:00:00:A1 z=9", "G",
-                               "G \xff", "G 02:00:00:00:00:A2"}) {
+    for (const char *silent : {"", "X", "E", "P 02:00:00:00:00:A1 z=9", "A 02:00:00:00:00:A1 z=9", "G", "G \xff", "G 02:00:00:00:00:A2"}) {
         broadcast(m_sender, silent);
     }
     broadcast(m_sender, "D");
@@ -220,13 +214,11 @@ void TestOrvet::responsesAreReported()
     peer.start(requestPort, responsePort);
     QCOMPARE(peer.value("addr1"_s) + peer.value("mask1"_s), "127.0.0.1255.0.0.0"_s);
     QVERIFY(peer.findChild<QThread *>("Orvet"_s)->isRunning());
-    for (const char *datagram : {"", "e", "p", "a", "x", "d \xff", "g 00:11:22:33:44:5F\ta=1\n",
-                                 "d 00:11:22:33:44:5F 1.2.3.4\tBox\tLab"}) {
+    for (const char *datagram : {"", "e", "p", "a", "x", "d \xff", "g 00:11:22:33:44:5F\ta=1\n", "d 00:11:22:33:44:5F 1.2.3.4\tBox\tLab"}) {
         broadcast(m_sender, datagram, responsePort);
     }
     QTRY_VERIFY(!discovered.isEmpty());
-    QCOMPARE(summary(discovered.first().first().value<OrvetInformation>()),
-             "00:11:22:33:44:5f|1.2.3.4|Box|Lab"_s);
+    QCOMPARE(summary(discovered.first().first().value<OrvetInformation>()), "00:11:22:33:44:5f|1.2.3.4|Box|Lab"_s);
     QCOMPARE(got.first().first().value<OrvetInformation>().properties, QVariantMap({{"a"_s, "1"_s}}));
 }
 

@@ -88,18 +88,15 @@ void TestUnifiedStorage::values()
     QVariantList loaded;
     loaded << 5.0 << -9.0 << QVariant(QVariantList{"k"_s}) << QVariantMap{{"k"_s, QVariantList{1.0, true}}};
     QVariantList same;
-    same << QVariant() << QSize(-3, 2147483647) << QVariant::fromValue(short(-2)) << QVariant::fromValue('c')
-         << QVariant::fromValue(2.5F) << QVariant::fromValue(9L) << QVariant::fromValue(nullptr)
-         << QChar(u'x') << QByteArray("\0\xff", 2) << QBitArray(11, true) << QBitArray() << date << time
-         << QDateTime() << QDateTime(date, time) << QDateTime(date, time, Qt::OffsetFromUTC, -3600)
+    same << QVariant() << QSize(-3, 2147483647) << QVariant::fromValue(short(-2)) << QVariant::fromValue('c') << QVariant::fromValue(2.5F)
+         << QVariant::fromValue(9L) << QVariant::fromValue(nullptr) << QChar(u'x') << QByteArray("\0\xff", 2) << QBitArray(11, true)
+         << QBitArray() << date << time << QDateTime() << QDateTime(date, time) << QDateTime(date, time, Qt::OffsetFromUTC, -3600)
          << QDateTime(date, time, QTimeZone("Europe/Berlin")) << QDateTime(date, time, QTimeZone::utc())
-         << QDateTime(date, time, QTimeZone("My/Zone", 5400, "a"_s, "b"_s)) << QUrl("https://host/?a=%20b"_s)
-         << QUuid::createUuid() << QLocale("de_AT"_s) << QRect(1, 2, 3, 4) << QRectF(1, 2, 3, 4)
-         << QSizeF(1, 2) << QLine(1, 2, 3, 4) << QLineF(1, 2, 3, 4) << QPoint(1, 2) << QPointF(1, 2)
-         << QRegularExpression("(a{9}){9}"_s) << NetworkHelper::ipv4Pattern()
-         << QVariantHash{{"k"_s, QVariantList{QVariantMap{{"k"_s, 1}}}}}
-         << QVariant::fromValue(QByteArrayList{"a", QByteArray()}) << QVariant(QMetaType::QVariant, &seven)
-         << QJsonObject{{"k"_s, 5}} << QJsonArray{1, 2} << QColor(Qt::red) << QFont("Mono"_s, 9)
+         << QDateTime(date, time, QTimeZone("My/Zone", 5400, "a"_s, "b"_s)) << QUrl("https://host/?a=%20b"_s) << QUuid::createUuid()
+         << QLocale("de_AT"_s) << QRect(1, 2, 3, 4) << QRectF(1, 2, 3, 4) << QSizeF(1, 2) << QLine(1, 2, 3, 4) << QLineF(1, 2, 3, 4)
+         << QPoint(1, 2) << QPointF(1, 2) << QRegularExpression("(a{9}){9}"_s) << NetworkHelper::ipv4Pattern()
+         << QVariantHash{{"k"_s, QVariantList{QVariantMap{{"k"_s, 1}}}}} << QVariant::fromValue(QByteArrayList{"a", QByteArray()})
+         << QVariant(QMetaType::QVariant, &seven) << QJsonObject{{"k"_s, 5}} << QJsonArray{1, 2} << QColor(Qt::red) << QFont("Mono"_s, 9)
          << QKeySequence(Qt::CTRL + Qt::Key_A);
     stored += same;
     loaded += same;
@@ -151,12 +148,10 @@ void TestUnifiedStorage::hostileBytes()
 void TestUnifiedStorage::malformedMembers()
 {
     const QByteArray nested = "mapped:///a?" + QByteArray("a<").repeated(300000) + QByteArray(300000, '>');
-    for (const QByteArray &name : {QByteArray("no scheme"), QByteArray("NATIVE:///a"),
-                                   QByteArray("mapped:///a"), QByteArray("mapped:///a?QPoint"),
-                                   QByteArray("mapped:///a??QSize"), nested, QByteArray("binary:///a")}) {
+    for (const QByteArray &name : {QByteArray("no scheme"), QByteArray("NATIVE:///a"), QByteArray("mapped:///a"),
+                                   QByteArray("mapped:///a?QPoint"), QByteArray("mapped:///a??QSize"), nested, QByteArray("binary:///a")}) {
         QTest::ignoreMessage(QtWarningMsg, ("Snapshot key \"" + name + "\" is malformed.").constData());
-        load("{\"" + name
-             + R"(": "AAAAAgAAAAA*BQ==", "native:///n": [1], "mapped:///s?QSize?": {"width": 1e300}})");
+        load("{\"" + name + R"(": "AAAAAgAAAAA*BQ==", "native:///n": [1], "mapped:///s?QSize?": {"width": 1e300}})");
         QCOMPARE(value("/n"_s), QVariant(QVariantList{1.0}));
         QCOMPARE(value("/s"_s), QVariant(QSize(0, 0)));
     }
@@ -169,14 +164,12 @@ void TestUnifiedStorage::unusableFiles()
     QSignalSpy loaded(&m_storage, SIGNAL(snapshotLoaded(QString)));
     QTest::ignoreMessage(QtCriticalMsg, "Failed reading bucket snapshot from \"/missing/file\"");
     m_storage.loadSnapshot("/missing/file"_s);
-    QTest::ignoreMessage(QtCriticalMsg,
-                         qPrintable("Failed parsing bucket snapshot from \"%1\" 10"_s.arg(m_path)));
+    QTest::ignoreMessage(QtCriticalMsg, qPrintable("Failed parsing bucket snapshot from \"%1\" 10"_s.arg(m_path)));
     m_storage.loadSnapshot(m_path);
     QVERIFY(loaded.isEmpty() && m_storage.contains("/a"_s));
 
     QString failed;
-    connect(&m_storage, &UnifiedStorage::snapshotWriteError, this,
-            [&](const QString &path) { failed = path; });
+    connect(&m_storage, &UnifiedStorage::snapshotWriteError, this, [&](const QString &path) { failed = path; });
     QTest::ignoreMessage(QtCriticalMsg, "Failed creating bucket snapshot at \"/missing/file\"");
     m_storage.saveSnapshot("/missing/file"_s);
     QTRY_COMPARE(failed, "/missing/file"_s);
@@ -186,9 +179,7 @@ void TestUnifiedStorage::keys()
 {
     load(R"({"native:///gone": 9})");
     load(R"({"native:///quillon_pulse/x": 5, "native:///replaced": 6})");
-    load(
-        R"({"native:///xabc": 1, "native://abc": 2, "native://quillon_pulse/a": 3, "native:///replaced": 4})",
-        true);
+    load(R"({"native:///xabc": 1, "native://abc": 2, "native://quillon_pulse/a": 3, "native:///replaced": 4})", true);
     m_storage.remove(QRegExp("abc"_s));
     m_storage.fixOldKeynames();
     for (const char *gone : {"/gone", "/xabc", "/quillon_pulse/x", "quillon_pulse/a"}) {
@@ -204,8 +195,7 @@ void TestUnifiedStorage::proxy()
     QCOMPARE(NetworkHelper::proxyFromSettings(), QNetworkProxy());
     load(R"({"native:///settings/server/proxy-hostname": "h", "native:///settings/server/proxy-port": 8080,
              "native:///settings/server/proxy-username": "u", "native:///settings/server/proxy-password": "p"})");
-    QCOMPARE(NetworkHelper::proxyFromSettings(),
-             QNetworkProxy(QNetworkProxy::DefaultProxy, "h"_s, 8080, "u"_s, "p"_s));
+    QCOMPARE(NetworkHelper::proxyFromSettings(), QNetworkProxy(QNetworkProxy::DefaultProxy, "h"_s, 8080, "u"_s, "p"_s));
     m_storage.store("/settings/server/proxy-port"_s, "no number"_s);
     QCOMPARE(NetworkHelper::proxyFromSettings().port(), quint16(0));
 }

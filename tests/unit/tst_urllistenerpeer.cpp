@@ -29,9 +29,8 @@ void TestUrlListenerPeer::sentBytes()
         QVERIFY(server.waitForNewConnection(5000));
         QLocalSocket *socket = server.nextPendingConnection();
         QTRY_COMPARE(socket->state(), QLocalSocket::UnconnectedState);
-        QCOMPARE(
-            socket->readAll().toHex(' '),
-            QByteArray(url.isEmpty() ? "ff ff ff ff" : "00 00 00 0d 78 3a 2f 61 3f 62 3d 25 43 33 25 42 43"));
+        QCOMPARE(socket->readAll().toHex(' '),
+                 QByteArray(url.isEmpty() ? "ff ff ff ff" : "00 00 00 0d 78 3a 2f 61 3f 62 3d 25 43 33 25 42 43"));
     }
 }
 
