@@ -181,6 +181,8 @@ void TestOrvet::answersOnTheWire()
     OrvetPeerWorker worker;
     worker.start(requestPort, responsePort);
     QCOMPARE(socketCount(worker), 4);
+    QVERIFY(run("ip link delete card1"_s) && plugIn(1)); // away and back before anybody looked
+    QCOMPARE(socketCount(worker), 4);
     worker.setOrvetName("Box %3"_s);
     worker.setOrvetDescription("Lab"_s);
     worker.setValue("z"_s, "1"_s);

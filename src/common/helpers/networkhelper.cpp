@@ -11,6 +11,7 @@
 #include <QUdpSocket>
 
 #ifdef Q_OS_LINUX
+#include <cerrno>
 #include <net/if.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -74,7 +75,8 @@ bool tieToInterface(QUdpSocket *socket, const QHostAddress &address)
     if (::setsockopt(descriptor, SOL_SOCKET, SO_BINDTODEVICE, name.constData(),
                      static_cast<socklen_t>(name.size()))
         != 0) {
-        qCWarning(lcNetworkHelper) << "Could not tie socket to interface" << name << qt_error_string(errno);
+        const QString reason = qt_error_string(errno); // now, since logging may overwrite errno
+        qCWarning(lcNetworkHelper) << "Could not tie socket to interface" << name << reason;
         ::close(descriptor);
         return false;
     }
@@ -188,6 +190,20 @@ bool NetworkHelper::bindToInterface(QUdpSocket *socket, const QHostAddress &addr
     }
 #endif
     return socket->bind(local, port, QUdpSocket::ShareAddress | QUdpSocket::ReuseAddressHint);
+}
+
+bool NetworkHelper::hasLostInterface(const QUdpSocket &socket)
+{
+#ifdef Q_OS_LINUX
+    char name[IFNAMSIZ];
+    socklen_t size = sizeof(name);
+    return ::getsockopt(static_cast<int>(socket.socketDescriptor()), SOL_SOCKET, SO_BINDTODEVICE, name, &size)
+        != 0
+        && errno == ENODEV;
+#else
+    Q_UNUSED(socket)
+    return false;
+#endif
 }
 
 QString NetworkHelper::toHexString(const QByteArray &data)

@@ -62,6 +62,11 @@ public:
     // address that is every interface, and the default route for sending.
     static bool bindToInterface(QUdpSocket *socket, const QHostAddress &address, quint16 port);
 
+    // Whether the interface that such a socket belongs to was taken out of the machine. The socket stays deaf
+    // then, even when the interface comes back with the same address. Always false on Windows, where a socket
+    // belongs to an address.
+    static bool hasLostInterface(const QUdpSocket &socket);
+
     // "0x0 0x1A 0xFF": upper-case digits, unpadded, separated by blanks.
     static QString toHexString(const QByteArray &data);
 

@@ -36,7 +36,7 @@ QString OrvetPeer::value(const QString &key) const
 {
     QString text;
     QMetaObject::invokeMethod(d->worker(), "value", Qt::BlockingQueuedConnection, Q_RETURN_ARG(QString, text),
-                              Q_ARG(const QString &, key));
+                              Q_ARG(QString, key));
     return text;
 }
 
@@ -57,44 +57,42 @@ void OrvetPeer::discover()
 
 void OrvetPeer::echo(const QString &hardwareAddress)
 {
-    d->queue("echo", Q_ARG(const QString &, hardwareAddress));
+    d->queue("echo", Q_ARG(QString, hardwareAddress));
 }
 
 void OrvetPeer::get(const QString &hardwareAddress)
 {
-    d->queue("get", Q_ARG(const QString &, hardwareAddress));
+    d->queue("get", Q_ARG(QString, hardwareAddress));
 }
 
 void OrvetPeer::put(const QString &hardwareAddress, const QString &key, const QString &value)
 {
-    d->queue("put", Q_ARG(const QString &, hardwareAddress), Q_ARG(const QString &, key),
-             Q_ARG(const QString &, value));
+    d->queue("put", Q_ARG(QString, hardwareAddress), Q_ARG(QString, key), Q_ARG(QString, value));
 }
 
 void OrvetPeer::put(const QString &hardwareAddress, const QMap<QString, QString> &properties)
 {
-    d->queue("put", Q_ARG(const QString &, hardwareAddress), Q_ARG(const StringMap &, properties));
+    d->queue("put", Q_ARG(QString, hardwareAddress), Q_ARG(StringMap, properties));
 }
 
 void OrvetPeer::apply(const QString &hardwareAddress, const QString &key, const QString &value)
 {
-    d->queue("apply", Q_ARG(const QString &, hardwareAddress), Q_ARG(const QString &, key),
-             Q_ARG(const QString &, value));
+    d->queue("apply", Q_ARG(QString, hardwareAddress), Q_ARG(QString, key), Q_ARG(QString, value));
 }
 
 void OrvetPeer::apply(const QString &hardwareAddress, const QMap<QString, QString> &properties)
 {
-    d->queue("apply", Q_ARG(const QString &, hardwareAddress), Q_ARG(const StringMap &, properties));
+    d->queue("apply", Q_ARG(QString, hardwareAddress), Q_ARG(StringMap, properties));
 }
 
 void OrvetPeer::setOrvetName(const QString &name)
 {
-    d->queue("setOrvetName", Q_ARG(const QString &, name));
+    d->queue("setOrvetName", Q_ARG(QString, name));
 }
 
 void OrvetPeer::setOrvetDescription(const QString &description)
 {
-    d->queue("setOrvetDescription", Q_ARG(const QString &, description));
+    d->queue("setOrvetDescription", Q_ARG(QString, description));
 }
 
 void OrvetPeer::setHostEnabled(bool enabled)
@@ -104,10 +102,10 @@ void OrvetPeer::setHostEnabled(bool enabled)
 
 void OrvetPeer::setValue(const QString &key, const QString &value)
 {
-    d->queue("setValue", Q_ARG(const QString &, key), Q_ARG(const QString &, value));
+    d->queue("setValue", Q_ARG(QString, key), Q_ARG(QString, value));
 }
 
 void OrvetPeer::setNetworkAddressState(const QString &address, bool enable)
 {
-    d->queue("setNetworkAddressState", Q_ARG(const QString &, address), Q_ARG(bool, enable));
+    d->queue("setNetworkAddressState", Q_ARG(QString, address), Q_ARG(bool, enable));
 }

@@ -211,23 +211,33 @@ void OrvetPeerWorker::processRequest()
 
 void OrvetPeerWorker::checkForInterfaces()
 {
+    // A card that was away for a moment since the last check is opened anew.
+    removeAdapters([](const Adapter &adapter) {
+        return adapter.requestSocket && NetworkHelper::hasLostInterface(*adapter.requestSocket);
+    });
     const InterfaceAddresses interfaces = usableInterfaces();
     for (const auto &[entry, hardwareAddress] : interfaces) {
         startOnHostAddress(entry, hardwareAddress, m_requestPort, m_responsePort);
     }
+    removeAdapters([&interfaces](const Adapter &adapter) {
+        return std::none_of(interfaces.cbegin(), interfaces.cend(), [&adapter](const auto &present) {
+            return present.hardwareAddress == adapter.hardwareAddress;
+        });
+    });
+}
 
+template <typename Condition>
+void OrvetPeerWorker::removeAdapters(Condition isGone)
+{
     QMutableVectorIterator<Adapter> adapters(m_adapters);
     while (adapters.hasNext()) {
         const Adapter adapter = adapters.next();
-        if (std::any_of(interfaces.cbegin(), interfaces.cend(), [&adapter](const auto &present) {
-                return present.hardwareAddress == adapter.hardwareAddress;
-            })) {
-            continue;
+        if (isGone(adapter)) {
+            delete adapter.requestSocket.data();
+            delete adapter.responseSocket.data();
+            adapters.remove();
+            qCInfo(lcOrvet) << "Removed interface" << adapter.hardwareAddress;
         }
-        delete adapter.requestSocket.data();
-        delete adapter.responseSocket.data();
-        adapters.remove();
-        qCInfo(lcOrvet) << "Removed interface" << adapter.hardwareAddress;
     }
 }
 

@@ -72,6 +72,8 @@ private:
     struct SocketRole;
     using InterfaceAddresses = QVector<NetworkHelper::InterfaceAddress>;
 
+    template <typename Condition>
+    void removeAdapters(Condition isGone);
     InterfaceAddresses usableInterfaces() const;
     bool startOnHostAddress(const QNetworkAddressEntry &entry, const QString &hardwareAddress,
                             quint16 requestPort, quint16 responsePort);
