@@ -61,7 +61,7 @@ void broadcast(QUdpSocket &socket, const QByteArray &datagram, quint16 port = re
     socket.writeDatagram(datagram, QHostAddress(QHostAddress::Broadcast), port);
 }
 
-int socketCount(OrvetPeerWorker &worker)
+int socketsAfterCheck(OrvetPeerWorker &worker)
 {
     QMetaObject::invokeMethod(&worker, "checkForInterfaces");
     return worker.findChildren<QUdpSocket *>().size();
@@ -102,7 +102,7 @@ void TestOrvet::initTestCase()
     qputenv("COMPUTERNAME", "PC1");
     QVERIFY(plugIn(1));
     QVERIFY(m_sender.bind(QHostAddress("192.168.1.1"_s))); // sends through the card with this address
-    QCOMPARE(NetworkHelper::interfaceAddresses().first().hardwareAddress, loopback);
+    QCOMPARE(NetworkHelper::interfaceAddresses().constFirst().hardwareAddress, loopback);
 }
 
 void TestOrvet::parseDiscoverResponse_data()
@@ -180,9 +180,9 @@ void TestOrvet::answersOnTheWire()
     QVERIFY(bind(responses, responsePort));
     OrvetPeerWorker worker;
     worker.start(requestPort, responsePort);
-    QCOMPARE(socketCount(worker), 4);
+    QCOMPARE(socketsAfterCheck(worker), 4);
     QVERIFY(run("ip link delete card1"_s) && plugIn(1)); // away and back before anybody looked
-    QCOMPARE(socketCount(worker), 4);
+    QCOMPARE(socketsAfterCheck(worker), 4);
     worker.setOrvetName("Box %3"_s);
     worker.setOrvetDescription("Lab"_s);
     worker.setValue("z"_s, "1"_s);
@@ -194,9 +194,8 @@ void TestOrvet::answersOnTheWire()
     broadcast(m_sender, "G 02:00:00:00:00:a1");
     QCOMPARE(received(responses), QByteArray("g 02:00:00:00:00:A1\tz=3\ndhcp=off\nb=2\n"));
 
-    QTest::ignoreMessage(QtWarningMsg,
-                         "Received invalid request type."); // once for each socket that hears it
-    QTest::ignoreMessage(QtWarningMsg, "Received invalid request type.");
+    QTest::ignoreMessage(QtWarningMsg, "Received invalid request type."); // by the card's socket
+    QTest::ignoreMessage(QtWarningMsg, "Received invalid request type."); // and the one for all cards
     for (const char *silent : {"", "X", "E", "P 02:00:00:00:00:A1 z=9", "A 02:00:00:00:00:A1 z=9", "G", "G \xff", "G 02:00:00:00:00:A2"}) {
         broadcast(m_sender, silent);
     }
@@ -231,28 +230,27 @@ void TestOrvet::cardsComeAndGo()
     worker.setNetworkAddressState(loopback, false);
     worker.setNetworkAddressState(card1, false);
     worker.start(1, 2);
-    QCOMPARE(worker.value("addr1"_s), QString()); // set by a start that finds an interface only
-    QCOMPARE(socketCount(worker), 0);
+    QCOMPARE(worker.value("addr1"_s), QString()); // only a start that finds an interface sets it
+    QCOMPARE(socketsAfterCheck(worker), 0);
     QVERIFY(plugIn(2));
-    QTest::ignoreMessage(QtInfoMsg,
-                         R"(Bound request socket "192.168.2.1" to port 45123)"); // likewise the ports
+    QTest::ignoreMessage(QtInfoMsg, R"(Bound request socket "192.168.2.1" to port 45123)"); // and not 1
     QTest::ignoreMessage(QtInfoMsg, R"(Bound response socket "192.168.2.1" to port 45124)");
     QTest::ignoreMessage(QtInfoMsg, R"(Added port for device "02:00:00:00:00:A2" with ip "192.168.2.1")");
-    QCOMPARE(socketCount(worker), 2);
+    QCOMPARE(socketsAfterCheck(worker), 2);
     worker.setNetworkAddressState(card1, true);
-    QCOMPARE(socketCount(worker), 4);
+    QCOMPARE(socketsAfterCheck(worker), 4);
     QVERIFY(run("ip link delete card2"_s));
     QTest::ignoreMessage(QtInfoMsg, R"(Removed interface "02:00:00:00:00:A2")");
-    QCOMPARE(socketCount(worker), 2);
+    QCOMPARE(socketsAfterCheck(worker), 2);
 
     QTest::ignoreMessage(QtCriticalMsg, "OrvetPeer seems to be running already.");
     worker.start(requestPort, responsePort);
     worker.stop();
     QTest::ignoreMessage(QtCriticalMsg, R"(Failed sending discover request on device "02:00:00:00:00:A1")");
     worker.discover();
-    QCOMPARE(socketCount(worker), 0);
+    QCOMPARE(socketsAfterCheck(worker), 0);
     worker.setNetworkAddressState(card1, false);
-    QCOMPARE(socketCount(worker), 0); // forgets the card, whose sockets are gone already
+    QCOMPARE(socketsAfterCheck(worker), 0); // forgets the card, whose sockets are gone already
     worker.stop();
 }
 
@@ -261,7 +259,7 @@ void TestOrvet::queuedCallsOvertakeDatagrams()
 {
     OrvetPeerWorker worker;
     worker.start(requestPort, responsePort);
-    QCOMPARE(socketCount(worker), 4);
+    QCOMPARE(socketsAfterCheck(worker), 4);
     int reported = 0;
     int reportedBeforeCall = 0;
     connect(&worker, &OrvetPeerWorker::deviceDiscovered, this, [&] {

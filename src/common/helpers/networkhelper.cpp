@@ -11,6 +11,7 @@
 #include <QUdpSocket>
 
 #ifdef Q_OS_LINUX
+#include <array>
 #include <cerrno>
 #include <net/if.h>
 #include <sys/socket.h>
@@ -195,9 +196,10 @@ bool NetworkHelper::bindToInterface(QUdpSocket *socket, const QHostAddress &addr
 bool NetworkHelper::hasLostInterface(const QUdpSocket &socket)
 {
 #ifdef Q_OS_LINUX
-    char name[IFNAMSIZ];
-    socklen_t size = sizeof(name);
-    return ::getsockopt(static_cast<int>(socket.socketDescriptor()), SOL_SOCKET, SO_BINDTODEVICE, name, &size)
+    std::array<char, IFNAMSIZ> name{};
+    socklen_t size = name.size();
+    return ::getsockopt(static_cast<int>(socket.socketDescriptor()), SOL_SOCKET, SO_BINDTODEVICE, name.data(),
+                        &size)
         != 0
         && errno == ENODEV;
 #else

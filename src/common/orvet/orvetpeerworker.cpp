@@ -178,7 +178,7 @@ void OrvetPeerWorker::setNetworkAddressState(const QString &address, bool enable
 void OrvetPeerWorker::processResponse()
 {
     auto *socket = qobject_cast<QUdpSocket *>(sender());
-    for (int turn = 0; socket && turn < datagramsPerTurn && socket->hasPendingDatagrams(); ++turn) {
+    for (int count = 0; socket && count < datagramsPerTurn && socket->hasPendingDatagrams(); ++count) {
         const QByteArray datagram = socket->receiveDatagram().data();
         if (datagram.startsWith('d')) {
             if (const auto information = OrvetPackets::parseDiscoverResponse(datagram)) {
@@ -193,12 +193,12 @@ void OrvetPeerWorker::processResponse()
 void OrvetPeerWorker::processRequest()
 {
     auto *socket = qobject_cast<QUdpSocket *>(sender());
-    for (int turn = 0; socket && turn < datagramsPerTurn && socket->hasPendingDatagrams(); ++turn) {
+    for (int count = 0; socket && count < datagramsPerTurn && socket->hasPendingDatagrams(); ++count) {
         const QByteArray datagram = socket->receiveDatagram().data();
         if (datagram.isEmpty() || !m_hostEnabled) {
             continue;
         }
-        const auto adapter =
+        const auto *const adapter =
             std::find_if(m_adapters.cbegin(), m_adapters.cend(),
                          [socket](const Adapter &candidate) { return candidate.requestSocket == socket; });
         if (adapter == m_adapters.cend()) {
@@ -213,7 +213,7 @@ void OrvetPeerWorker::checkForInterfaces()
 {
     // A card that was away for a moment since the last check is opened anew.
     removeAdapters([](const Adapter &adapter) {
-        return adapter.requestSocket && NetworkHelper::hasLostInterface(*adapter.requestSocket);
+        return !adapter.requestSocket.isNull() && NetworkHelper::hasLostInterface(*adapter.requestSocket);
     });
     const InterfaceAddresses interfaces = usableInterfaces();
     for (const auto &[entry, hardwareAddress] : interfaces) {
