@@ -24,6 +24,8 @@ target_compile_definitions(simulator_options INTERFACE
 target_compile_options(simulator_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
     -Wcast-qual -Wformat=2 -Wundef -Wextra-semi
+    # Log lines name files relative to the project: the place of a build leaves no trace in the program.
+    "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/="
     # Qt's category macros leave their variadic argument empty at every streamed log line.
     $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>
     $<$<BOOL:${SIMULATOR_WERROR}>:-Werror>)
