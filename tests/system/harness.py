@@ -3,11 +3,13 @@
 
 """Runs the built program for a system test.
 
-SIMULATOR names the program, SIMULATOR_LAUNCHER (optional) a command to start it through.
+SIMULATOR names the program, SIMULATOR_LAUNCHER (optional) a command to start it through, CHANNEL_WRITER (on Windows)
+the program that writes to its single-instance channel.
 """
 
 import os
 import shlex
+import socket
 import subprocess
 import sys
 import tempfile
@@ -33,8 +35,18 @@ def require_namespaces():
         sys.exit(77)
 
 
-def command(*arguments):
-    return shlex.split(os.environ.get("SIMULATOR_LAUNCHER", "")) + [os.environ["SIMULATOR"], *arguments]
+def command(*arguments, program="SIMULATOR"):
+    return shlex.split(os.environ.get("SIMULATOR_LAUNCHER", "")) + [os.environ[program], *arguments]
+
+
+def write_to_channel(message):
+    """Connects to the single-instance channel, writes the bytes and hangs up."""
+    if "CHANNEL_WRITER" in os.environ:
+        subprocess.run(command(message.hex(), program="CHANNEL_WRITER"), check=True)
+        return
+    with socket.socket(socket.AF_UNIX) as channel:
+        channel.connect(os.path.join(os.environ["TMPDIR"], "RavelMonitorOrbisSimulator"))
+        channel.sendall(message)
 
 
 class Simulator:

@@ -62,7 +62,8 @@ class Discovery(unittest.TestCase):
         for cards in (1, 2):
             host.plug_in(cards)
             if cards == 1:
-                run("ip route add default dev card1")
+                # By way of a gateway: with a bare default route Wine finds no interfaces at all.
+                run("ip route add default via 192.168.7.9")
             simulator = harness.start(["--sn", "ABC123"])
             simulator.wait_for_log(f'Added port for device "02:00:00:00:00:0{cards}"')
             with host.bind(0) as requester, host.bind(45124) as responses:

@@ -14,16 +14,12 @@ import unittest
 
 import harness
 
-CHANNEL = pathlib.Path(os.environ["TMPDIR"], "RavelMonitorOrbisSimulator")
 CONFIGURATION = pathlib.Path(os.environ["PROGRAMDATA"], "Pelmora/Ravel Monitor Orbis Simulator")
 
 
 def send_url(url):
     """Hands a URL to the running instance: one byte array behind its 32-bit length."""
-    with socket.socket(socket.AF_UNIX) as channel:
-        channel.connect(str(CHANNEL))
-        channel.sendall(struct.pack(">I", len(url)) + url)
-        return channel.recv(1) # the instance closes the connection
+    harness.write_to_channel(struct.pack(">I", len(url)) + url)
 
 
 def ask(master, function_code, data):
@@ -87,9 +83,7 @@ class Program(unittest.TestCase):
 
         # Whatever else comes over the channel, the next URL is understood.
         for message in [b"", b"\0", b"\xff\xff\xff\xf0", b"\0\0\0\x10half"]:
-            with socket.socket(socket.AF_UNIX) as channel:
-                channel.connect(str(CHANNEL))
-                channel.sendall(message)
+            harness.write_to_channel(message)
         send_url(b"sim://x/change_lang/en_GB")
         first.wait_for_log('Changing Language to "en_GB"')
         send_url(b"sim://x/nowhere")

@@ -1,0 +1,87 @@
+# SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+# SPDX-License-Identifier: MIT
+"""Zip and installer for Windows, with nothing in reach but what they bring."""
+
+import os
+import pathlib
+import re
+import socket
+import subprocess
+import unittest
+import unittest.mock
+
+import harness
+
+PROGRAM = pathlib.Path(os.environ["SIMULATOR"])
+INSTALLED = pathlib.Path(os.environ["WINEPREFIX"], "drive_c/Program Files/Pelmora/Ravel Monitor Orbis Simulator")
+START_MENU_ENTRY = pathlib.Path(os.environ["PROGRAMDATA"],
+                                "Microsoft/Windows/Start Menu/Programs/Ravel Monitor Orbis Simulator.lnk")
+
+
+def serves():
+    try:
+        socket.create_connection(("127.0.0.1", 502), harness.DEADLINE).close()
+        return True
+    except ConnectionRefusedError:
+        return False
+
+
+def run(*command):
+    """What Wine traced of a program and all that it started, once the last of them has ended."""
+    done = subprocess.run([os.environ["SIMULATOR_LAUNCHER"], *map(str, command)], stderr=subprocess.PIPE, text=True,
+                          env={**os.environ, "WINEDEBUG": "+process"}, timeout=harness.DEADLINE, check=True)
+    subprocess.run(["wineserver", "--wait"], timeout=harness.DEADLINE, check=True)
+    return done.stderr
+
+
+def windows():
+    return subprocess.check_output("xwininfo -root -tree".split(), text=True)
+
+
+def colours_on_screen():
+    return int(subprocess.check_output("import -window root -format %k info:".split()))
+
+
+class Package(unittest.TestCase):
+    def start(self, program, **environment):
+        with unittest.mock.patch.dict(os.environ, SIMULATOR=str(program), **environment):
+            simulator = harness.start(["--factorytech"])
+        self.addCleanup(simulator.stop)
+        harness.wait_until(serves, "port 502")
+        return simulator
+
+    def test_zip(self):
+        simulator = self.start(PROGRAM, WINEDEBUG="+loaddll")
+        loaded = {path.replace("\\\\", "/").removeprefix("Z:")
+                  for path in re.findall(r'Loaded L"(.*?)" at \w+: native', simulator.log())}
+        expected = {str(path) for path in PROGRAM.parent.rglob("*")
+                    if path.suffix in (".exe", ".dll") and path.name not in ("qoffscreen.dll", "Qt5Concurrent.dll")}
+        self.assertEqual(loaded, expected)
+
+        harness.wait_until(lambda: colours_on_screen() > 50, "a window")
+
+    def test_installer(self):
+        commands = run(os.environ["SIMULATOR_INSTALLER"], "/S")
+        for expected in ["dir=in action=allow protocol=TCP localport=502 program=",
+                         "dir=in action=allow protocol=UDP localport=45123,45124 program=",
+                         "/grant *S-1-5-32-545:(OI)(CI)M"]:
+            self.assertIn(expected, commands)
+        self.assertTrue(START_MENU_ENTRY.exists())
+
+        self.start(INSTALLED / PROGRAM.name).stop()
+        self.assertIn("delete rule name=", run(INSTALLED / "Uninstall.exe", "/S"))
+        self.assertFalse(INSTALLED.parent.exists())
+        self.assertFalse(START_MENU_ENTRY.exists())
+
+    def test_double_click(self):
+        """The console that Windows opens with the program is minimised to its title bar."""
+        command = [os.environ["SIMULATOR_LAUNCHER"], "start.exe", "/wait", "/unix", str(PROGRAM)]
+        with subprocess.Popen(command) as starter:
+            harness.wait_until(lambda: re.search(r'Simulator\.exe": .* 160x24\+', windows()), "a small console")
+            harness.wait_until(lambda: '"Ravel Monitor Orbis Simulator - Pelmora"' in windows(), "the window")
+            subprocess.run(["wine", "taskkill", "/im", PROGRAM.name], check=True)
+            self.assertEqual(starter.wait(harness.DEADLINE), 0)
+
+
+if __name__ == "__main__":
+    unittest.main()
