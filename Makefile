@@ -7,7 +7,7 @@ build_packages = g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-too
 test_packages = $(build_packages) iproute2 python3 python3-pymodbus mbpoll libmodbus-dev pkg-config
 lint_packages = $(test_packages) clang-tidy clazy
 
-.PHONY: run test lint build clean
+.PHONY: run test test-windows lint package build clean
 
 run:
 	@scripts/require-packages $(build_packages)
@@ -21,9 +21,18 @@ test:
 	@$(MAKE) --no-print-directory build PRESET=$(PRESET)
 	ctest --test-dir build-$(PRESET) --output-on-failure --no-tests=error
 
+# The same system tests, with the packaged Windows program under Wine. Qt for Windows comes from the archive that
+# QT_WINDOWS_ARCHIVE names, or is built once from the distribution's sources.
+test-windows:
+	scripts/test-windows
+
 lint:
 	@scripts/require-packages $(lint_packages)
 	scripts/lint
+
+# Leaves what it makes in dist/.
+package:
+	scripts/package-windows
 
 build:
 	cmake --preset $(PRESET) --log-level=WARNING
