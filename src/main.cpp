@@ -178,6 +178,7 @@ int main(int argc, char *argv[])
     prepareConsole();
 #else
     const int termination = catchTermination();
+    SystemHelper::raiseDescriptorLimit();
 #endif
     QCoreApplication::setOrganizationName(QStringLiteral("Pelmora"));
     QCoreApplication::setApplicationName(QStringLiteral("Ravel Monitor Orbis Simulator"));

@@ -76,24 +76,24 @@ void ModbusManager::stopAnimation()
 
 void ModbusManager::setAlarmId(int alarmId)
 {
-    d->m_alarmId = alarmId;
+    d->alarmId = alarmId;
 }
 
 void ModbusManager::setAlarmImportance(int alarmImportance)
 {
-    d->m_alarmImportance = alarmImportance;
+    d->alarmImportance = alarmImportance;
 }
 
 void ModbusManager::setAlarmAction(int alarmAction)
 {
-    d->m_alarmAction = alarmAction;
+    d->alarmAction = alarmAction;
 }
 
 void ModbusManager::setMotorShortcircuitAlarm()
 {
     // The device reports this one text, whichever alarm was chosen: masters look the text up by the
     // signature.
-    d->raiseAlarm(d->m_alarmImportance, d->m_alarmId, d->m_alarmAction, QStringLiteral("Motor too hot."));
+    d->raiseAlarm(d->alarmImportance, d->alarmId, d->alarmAction, QStringLiteral("Motor too hot."));
 }
 
 void ModbusManager::removeMotorShortcircuitAlarm()
@@ -249,7 +249,7 @@ void ModbusManagerPrivate::handleMotorShortcircuitAlarmConfirmation(quint16 regi
     }
     const int action = m_slave->propertyValue(AlarmAction).toInt();
     const int signature = m_slave->propertyValue(AlarmSignature).toInt();
-    if (action != 0 || signature != m_alarmId) {
+    if (action != 0 || signature != alarmId) {
         return;
     }
     raiseAlarm(followUpImportance, followUpSignature, 0, QStringLiteral("Motor emergency operation."));

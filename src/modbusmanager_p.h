@@ -29,9 +29,9 @@ public:
     PropertyAnimationWrapper *m_wrapper = nullptr;
     QPropertyAnimation *m_animation = nullptr;
     bool m_stopped = false;
-    int m_alarmId = 0x31020011; // "Motor too hot."
-    int m_alarmImportance = 3;
-    int m_alarmAction = 1;
+    int alarmId = 0x31020011; // "Motor too hot."
+    int alarmImportance = 3;
+    int alarmAction = 1;
     ModbusManager *const q;
 
 private slots:

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 // SPDX-License-Identifier: MIT
 
-// The fixed set of logging categories. Every message of the program is logged under one of them, so that
-// QT_LOGGING_RULES can switch each subsystem on and off by name.
+// The fixed set of logging categories, by which QT_LOGGING_RULES switches each subsystem on and off. It is
+// shared with other programs of the platform, so some have no user here.
 
 #pragma once
 

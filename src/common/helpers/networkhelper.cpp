@@ -7,6 +7,7 @@
 #include "common/other/unifiedstorage.h"
 
 #include <QNetworkInterface>
+#include <QTcpServer>
 #include <QTextStream>
 #include <QUdpSocket>
 
@@ -121,6 +122,15 @@ QByteArray NetworkHelper::receivePacket(QAbstractSocket *socket, bool *error)
     qCDebug(lcNetworkHelper) << toHexString(data);
     report(error, false);
     return data;
+}
+
+void NetworkHelper::widenBacklog(QTcpServer *server)
+{
+#ifdef Q_OS_LINUX
+    ::listen(static_cast<int>(server->socketDescriptor()), SOMAXCONN);
+#else
+    Q_UNUSED(server) // fixed elsewhere once the server listens
+#endif
 }
 
 bool NetworkHelper::isValidMacAddress(const QString &address)

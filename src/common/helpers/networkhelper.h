@@ -12,6 +12,7 @@
 #include <QVector>
 
 class QAbstractSocket;
+class QTcpServer;
 class QUdpSocket;
 
 // Stateless network operations: blocking transfer of one packet, validation of address texts.
@@ -37,6 +38,11 @@ public:
 
     // Returns what has arrived, not necessarily a whole frame; empty on failure.
     static QByteArray receivePacket(QAbstractSocket *socket, bool *error);
+
+    // Lets as many peers as the system allows wait until a listening server accepts them. Qt's own 50 are few
+    // when many connect at once: the system then drops their attempts and they try again after a second or
+    // more.
+    static void widenBacklog(QTcpServer *server);
 
     // Six groups of hexadecimal digits, loosely: groups of up to four characters and runs of "-" as
     // separators pass, as some drivers report them.

@@ -9,7 +9,9 @@
 #include <QFile>
 #include <QUuid>
 
+#include <algorithm>
 #include <iostream>
+#include <limits>
 #include <stdexcept>
 
 #ifdef Q_OS_WIN
@@ -18,6 +20,7 @@
 #include <shlobj.h>
 #else
 #include <QSysInfo>
+#include <sys/resource.h>
 #include <unistd.h>
 #endif
 
@@ -149,6 +152,29 @@ QString SystemHelper::userAndComputerName()
         name += QLatin1Char('.');
     }
     return name + computer;
+}
+
+void SystemHelper::raiseDescriptorLimit()
+{
+#ifndef Q_OS_WIN
+    rlimit limit{};
+    if (getrlimit(RLIMIT_NOFILE, &limit) == 0) {
+        limit.rlim_cur = limit.rlim_max;
+        setrlimit(RLIMIT_NOFILE, &limit);
+    }
+#endif
+}
+
+int SystemHelper::maximumDescriptors()
+{
+    constexpr int unlimited = std::numeric_limits<int>::max();
+#ifndef Q_OS_WIN
+    rlimit limit{};
+    if (getrlimit(RLIMIT_NOFILE, &limit) == 0) {
+        return static_cast<int>(std::min<rlim_t>(limit.rlim_cur, unlimited));
+    }
+#endif
+    return unlimited;
 }
 
 bool SystemHelper::isUserAdmin()

@@ -41,6 +41,12 @@ public:
     // CLIENTNAME and COMPUTERNAME. Without a user name there is no "@" either.
     static QString userAndComputerName();
 
+    // Lets the process open as many descriptors as the system allows it at all.
+    static void raiseDescriptorLimit();
+
+    // How many descriptors the process may open, sockets included.
+    static int maximumDescriptors();
+
     // Whether the process has administrator rights.
     static bool isUserAdmin();
 };

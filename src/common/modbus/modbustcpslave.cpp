@@ -5,14 +5,15 @@
 
 #include "common/helpers/loggingcategories.h"
 #include "common/helpers/networkhelper.h"
+#include "common/helpers/systemhelper.h"
 #include "common/modbus/modbustcpslave_p.h"
 
 #include <QHostAddress>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTimer>
 #include <QtEndian>
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -25,7 +26,8 @@ enum FunctionCode : quint8 {
 // A request takes 260 bytes at the most; what a master sends beyond this before it is served waits in TCP.
 constexpr qint64 readBufferSize = 65536;
 
-constexpr int acceptRetryMs = 1000;
+// For the window, discovery, files and the single-instance channel.
+constexpr int reservedDescriptors = 48;
 
 // Takes up requests that arrived while an answer was on its way out. Qt reads them into the socket's buffer
 // during a blocking send and emits no further readyRead() for them. The way through the event loop gives
@@ -67,7 +69,9 @@ void ModbusTcpSlave::setHoldingRegister(quint16 number, const QVariant &value)
 
 void ModbusTcpSlave::start(quint16 port)
 {
-    if (!d->m_server->listen(QHostAddress::Any, port)) {
+    if (d->m_server->listen(QHostAddress::Any, port)) {
+        NetworkHelper::widenBacklog(d->m_server);
+    } else {
         qCCritical(lcModbus) << "Failed listening on port" << port;
     }
 }
@@ -79,7 +83,9 @@ void ModbusTcpSlave::stop()
 
 ModbusTcpSlavePrivate::~ModbusTcpSlavePrivate()
 {
-    m_server->close();
+    if (m_server) {
+        m_server->close();
+    }
 }
 
 void ModbusTcpSlavePrivate::init(ModbusTcpSlave *slave)
@@ -88,7 +94,9 @@ void ModbusTcpSlavePrivate::init(ModbusTcpSlave *slave)
     setParent(slave);
     m_server = new QTcpServer(this);
     connect(m_server, SIGNAL(newConnection()), this, SLOT(processNewClientConnection()));
-    connect(m_server, &QTcpServer::acceptError, this, &ModbusTcpSlavePrivate::retryAccepting);
+    // Connections that are not taken at once stay with the system, where they hold no descriptor.
+    m_server->setMaxPendingConnections(1);
+    m_maximumClients = std::max(1, SystemHelper::maximumDescriptors() - reservedDescriptors);
 }
 
 void ModbusTcpSlavePrivate::processNewClientConnection()
@@ -98,14 +106,27 @@ void ModbusTcpSlavePrivate::processNewClientConnection()
         qCCritical(lcModbus) << "Called from invalid or non-QTcpServer object.";
         return;
     }
-    while (server->hasPendingConnections()) {
-        adopt(server->nextPendingConnection());
+    adoptPendingClients();
+}
+
+// Qt's server spins when descriptors run out, and the single-instance channel closes for good. So masters
+// beyond the limit have to wait until others leave.
+void ModbusTcpSlavePrivate::adoptPendingClients()
+{
+    while (m_server->hasPendingConnections()) {
+        if (m_clients.size() >= m_maximumClients) {
+            qCWarning(lcModbus) << "Further Modbus masters have to wait, connected are" << m_clients.size();
+            return;
+        }
+        adopt(m_server->nextPendingConnection());
     }
 }
 
 void ModbusTcpSlavePrivate::adopt(QTcpSocket *client)
 {
     client->setReadBufferSize(readBufferSize);
+    // A master whose cable is pulled says no goodbye; the system finds out in about two hours.
+    client->setSocketOption(QAbstractSocket::KeepAliveOption, 1);
     m_clients.append(client);
     connect(client, SIGNAL(readyRead()), this, SLOT(processRequest()));
     connect(client, &QTcpSocket::bytesWritten, client, [client] { takeUpWaitingRequest(client); });
@@ -114,20 +135,9 @@ void ModbusTcpSlavePrivate::adopt(QTcpSocket *client)
     connect(client, &QTcpSocket::disconnected, m_server, [this, client] {
         m_clients.removeOne(client);
         client->deleteLater();
+        adoptPendingClients();
     });
     qCDebug(lcModbus) << "Modbus master" << client->peerAddress().toString() << "connected.";
-}
-
-// QTcpServer pauses at the first connection that it cannot take, most likely because descriptors ran out.
-// Nobody could ever connect again if it were not told to go on.
-void ModbusTcpSlavePrivate::retryAccepting()
-{
-    qCWarning(lcModbus) << "Failed accepting a Modbus master:" << m_server->errorString();
-    QTimer::singleShot(acceptRetryMs, this, [this] {
-        if (m_server->isListening()) {
-            m_server->resumeAccepting();
-        }
-    });
 }
 
 void ModbusTcpSlavePrivate::processRequest()
@@ -180,10 +190,22 @@ quint32 ModbusTcpSlavePrivate::valueBits(const QVariant &value)
 {
     quint32 bits = 0;
     switch (value.userType()) {
+    case QMetaType::Bool:
+    case QMetaType::Char:
+    case QMetaType::SChar:
+    case QMetaType::UChar:
+    case QMetaType::Short:
+    case QMetaType::UShort:
     case QMetaType::Int:
     case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
     case QMetaType::Float:
-        std::memcpy(&bits, value.constData(), sizeof bits);
+    case QMetaType::Double:
+        std::memcpy(&bits, value.constData(),
+                    std::min<std::size_t>(sizeof bits, QMetaType(value.userType()).sizeOf()));
         break;
     default:
         break;

@@ -16,7 +16,7 @@ class ModbusTcpSlavePrivate;
 // never set reads as 0, and a malformed request gets no answer at all.
 //
 // Registers hold variants. Whatever a master writes becomes an int of 0..65535; of a number set from the
-// program a master reads the low 16 bits, of anything else 0.
+// program a master reads the first 16 bits as memory holds them, of anything else 0.
 //
 // Everything, the blocking send of an answer included, happens on the thread that owns the object.
 class ModbusTcpSlave : public QObject

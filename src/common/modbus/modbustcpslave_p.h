@@ -31,7 +31,7 @@ public:
     static QByteArray sendResponse(QTcpSocket *socket, const TcpApplicationDataUnit &request,
                                    const QByteArray &data);
 
-    // The 32 bits of a number as the device holds it; 0 for anything but an int, an unsigned int or a float.
+    // The first 32 bits of a number as memory holds it; 0 for anything but a number.
     static quint32 valueBits(const QVariant &value);
 
     // Whether the request's data has the size that its handler reads; logs a warning if not.
@@ -46,12 +46,13 @@ public:
     QTcpServer *m_server = nullptr;
     QList<QTcpSocket *> m_clients; // children of m_server, deleted when they disconnect
     QMap<quint16, QVariant> m_registers;
+    int m_maximumClients = 0;
 
 private slots:
     void processNewClientConnection();
     void processRequest();
 
 private:
+    void adoptPendingClients();
     void adopt(QTcpSocket *client);
-    void retryAccepting();
 };

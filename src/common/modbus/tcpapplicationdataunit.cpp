@@ -19,7 +19,7 @@ TcpApplicationDataUnit::TcpApplicationDataUnit(quint16 transactionId, quint16 pr
 
 TcpApplicationDataUnit TcpApplicationDataUnit::fromByteArray(const QByteArray &bytes)
 {
-    if (bytes.size() < minimumSize) {
+    if (bytes.size() < headerSize) {
         return {};
     }
     const char *header = bytes.constData();

@@ -25,8 +25,8 @@ public:
                            const ProtocolDataUnit &pdu);
 
     // Takes whatever arrives: the protocol identifier need not be 0, any unit identifier will do, and the
-    // length field is not read, so bytes beyond it stay in the data. Less than minimumSize bytes give an
-    // empty unit.
+    // length field is not read, so bytes beyond it stay in the data. Fewer than the header's seven bytes give
+    // an empty unit.
     static TcpApplicationDataUnit fromByteArray(const QByteArray &bytes);
     QByteArray toByteArray() const override;
 
