@@ -35,6 +35,18 @@ def require_namespaces():
         sys.exit(77)
 
 
+def wait_for_modbus():
+    """Returns once masters can connect."""
+    with socket.socket() as master:
+        wait_until(lambda: master.connect_ex(("127.0.0.1", 502)) == 0, "port 502")
+
+
+def plug_in_card():
+    """Gives this host a network card "lan", 192.168.7.1 with hardware address 02:00:00:00:00:01."""
+    subprocess.run(["sh", "-ec", "ip link add lan address 02:00:00:00:00:01 type veth peer name wire; "
+                    "ip link set wire up; ip link set lan up; ip address add 192.168.7.1/24 dev lan"], check=True)
+
+
 def command(*arguments, program="SIMULATOR"):
     return shlex.split(os.environ.get("SIMULATOR_LAUNCHER", "")) + [os.environ[program], *arguments]
 
