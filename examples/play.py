@@ -1,0 +1,97 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+# SPDX-License-Identifier: MIT
+"""Plays a scenario: a second master that moves the simulator's registers while the client under test looks on.
+
+Needs pymodbus 3. A scenario names the registers that it uses and lists its steps, which are played in turn:
+
+  say                              prints a text
+  write {NAME: VALUE, ...}         writes the values in this order
+  ramp NAME, from, to, seconds     moves a value evenly, ten steps a second
+  wait for {NAME: VALUE}, seconds  until the registers hold all these values; ends the scenario if they never do
+  pause SECONDS
+"""
+
+import argparse
+import json
+import struct
+import sys
+import time
+
+from pymodbus.client import ModbusTcpClient
+
+FORMATS = {"float": "<f", "int": "<i"}
+
+
+class Player:
+    def __init__(self, client, registers, confirms):
+        self.client = client
+        self.registers = registers
+        self.confirms = confirms
+
+    def write(self, name, value):
+        register = self.registers[name]
+        words = struct.unpack("<HH", struct.pack(FORMATS[register["type"]], value))  # low word first
+        # The device echoes address and count byte-swapped, so there is nothing in the answer to compare.
+        self.client.write_registers(register["number"], list(words))
+
+    def read(self, name):
+        register = self.registers[name]
+        words = self.client.read_holding_registers(register["number"], 2).registers
+        return struct.unpack(FORMATS[register["type"]], struct.pack("<HH", *words))[0]
+
+    def play(self, step):
+        if "say" in step:
+            print(step["say"], flush=True)
+        elif "write" in step:
+            for name, value in step["write"].items():
+                self.write(name, number(value))
+        elif "ramp" in step:
+            self.ramp(step["ramp"], step["from"], step["to"], step["seconds"])
+        elif "wait for" in step:
+            self.wait(step["wait for"], step["seconds"])
+        else:
+            time.sleep(step["pause"])
+
+    def ramp(self, name, start, target, seconds):
+        parts = max(1, round(seconds * 10))
+        for part in range(1, parts + 1):
+            time.sleep(seconds / parts)
+            self.write(name, start + (target - start) * part / parts)
+        print(f"  {name} {self.read(name):g}", flush=True)
+
+    def wait(self, wanted, seconds):
+        text = ", ".join(f"{name} = {value}" for name, value in wanted.items())
+        end = time.monotonic() + seconds
+        while any(self.read(name) != number(value) for name, value in wanted.items()):
+            if time.monotonic() > end:
+                sys.exit(f"  waited {seconds} s in vain for {text}")
+            if self.confirms:
+                self.write("Alarm_Action", 0)
+            time.sleep(0.1)
+        print(f"  seen: {text}", flush=True)
+
+
+def number(value):
+    return int(value, 0) if isinstance(value, str) else value
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--confirm", action="store_true", help="stand in for the client: confirm the alarms too")
+    parser.add_argument("host")
+    parser.add_argument("scenario")
+    arguments = parser.parse_args()
+
+    with open(arguments.scenario, encoding="utf-8") as file:
+        scenario = json.load(file)
+    client = ModbusTcpClient(arguments.host)
+    if not client.connect():
+        sys.exit(f"{arguments.host} does not answer on port 502")
+    player = Player(client, scenario["registers"], arguments.confirm)
+    for step in scenario["steps"]:
+        player.play(step)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,61 @@
+# SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+# SPDX-License-Identifier: MIT
+"""Every "console" command in the documentation does and prints what its page says; "..." stands for what varies."""
+
+import doctest
+import os
+import pathlib
+import re
+import subprocess
+import tempfile
+import unittest
+
+import harness
+
+ROOT = pathlib.Path(__file__).parents[2]
+BLOCK = re.compile(r"^```console\n(.*?)^```", re.MULTILINE | re.DOTALL)
+COMMAND = re.compile(r"^\$ (.*)\n((?:(?!\$ ).*\n)*)", re.MULTILINE)
+TRACE = {"QT_LOGGING_RULES": "orvet.debug=true", "QT_MESSAGE_PATTERN": "%{time} %{category}: %{message}"}
+VISIBLE = {"QT_QPA_PLATFORM": "xcb", "ASAN_OPTIONS": "detect_leaks=0"}  # the platform plugin has leaks of its own
+
+
+class Documentation(unittest.TestCase):
+    def setUp(self):
+        harness.plug_in_card()
+        server = subprocess.Popen(["Xvfb", "-displayfd", "1"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        self.addCleanup(server.communicate)
+        self.addCleanup(server.terminate)
+        os.environ.update(DISPLAY=":" + server.stdout.readline().strip(), PATH="/usr/bin:/bin")
+
+    def test_commands_on_each_page(self):
+        for page in [ROOT / "README.md", ROOT / "examples/README.md", *ROOT.glob("docs/*.md")]:
+            with self.subTest(page.name), tempfile.TemporaryDirectory() as directory:
+                os.symlink(ROOT / "examples", f"{directory}/examples")
+                blocks = BLOCK.findall(page.read_text(encoding="utf-8"))
+                self.run_beside_simulator(COMMAND.findall("".join(blocks)), directory)
+
+    def run_beside_simulator(self, commands, directory):
+        if "operate.sh" in str(commands):
+            simulator = harness.start(["--sn", "ABC123", "--factorytech"], {**TRACE, **VISIBLE})
+        else:
+            simulator = harness.start(["--sn", "ABC123"], TRACE)
+        try:
+            # A debug line: the environment's rules win over the program's own.
+            simulator.wait_for_log(' orvet: Orvet peer started on device "02:00:00:00:00:01"')
+            harness.wait_for_modbus()
+            for command, wanted in commands:
+                self.check(command, wanted, directory)
+        finally:
+            simulator.stop()
+
+    def check(self, command, wanted, directory):
+        run = subprocess.run(["sh", "-c", command], cwd=directory, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                             text=True, check=False, timeout=harness.DEADLINE)
+        flags = doctest.ELLIPSIS | doctest.NORMALIZE_WHITESPACE
+        self.assertTrue(doctest.OutputChecker().check_output(wanted, run.stdout, flags),
+                        f"{command}\nprints\n{run.stdout}\nnot\n{wanted}")
+
+
+if __name__ == "__main__":
+    harness.require_namespaces()
+    unittest.main()
