@@ -29,7 +29,7 @@ signals:
     // Another instance has connected, whatever it sends.
     void newInstance();
 
-public slots:
+private slots:
     void newConnection();
     void readUrl();
 
