@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QRegularExpression>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUuid>
@@ -102,6 +103,22 @@ private slots:
         qputenv("COMPUTERNAME", environment.at(2));
         QTEST(SystemHelper::userAndComputerName(), "name");
     }
+
+#ifdef Q_OS_WIN // in the test's own installation of it
+    void registryAndRights()
+    {
+        QSettings registry("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Cryptography"_s, QSettings::NativeFormat);
+        QCOMPARE(QUuid::fromString(SystemHelper::machineId()).toString(QUuid::WithoutBraces), SystemHelper::machineId());
+        registry.setValue("MachineGuid"_s, " \"a b\" "_s);
+        registry.sync();
+        QCOMPARE(SystemHelper::machineId(), "a b"_s);
+        registry.remove("MachineGuid"_s);
+        registry.sync();
+        QTest::ignoreMessage(QtWarningMsg, "No machine id found!");
+        QCOMPARE(SystemHelper::machineId(), QString());
+        QVERIFY(SystemHelper::isUserAdmin());
+    }
+#endif
 };
 
 QTEST_GUILESS_MAIN(TestSystemHelper)
