@@ -1,14 +1,8 @@
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
 
-# Run by CPack on the staged package. Two builds of one commit give the same bytes: everything carries the time of
-# the commit, and the installer takes the files in alphabetical order instead of the file system's.
-
-if(DEFINED ENV{SOURCE_DATE_EPOCH})
-    execute_process(COMMAND find "${CPACK_TEMPORARY_DIRECTORY}"
-        -exec touch --no-dereference --date=@$ENV{SOURCE_DATE_EPOCH} {} +
-        COMMAND_ERROR_IS_FATAL ANY)
-endif()
+# Run by CPack on the staged package: the installer takes the files in alphabetical order instead of the file
+# system's, so that two builds of one commit give the same bytes.
 
 if(CPACK_GENERATOR STREQUAL "NSIS")
     file(GLOB_RECURSE entries LIST_DIRECTORIES ON RELATIVE "${CPACK_TEMPORARY_DIRECTORY}"

@@ -1,0 +1,14 @@
+# SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+# SPDX-License-Identifier: MIT
+#
+# Sourced by the shell scripts that start the simulator on Linux: what it needs to find in its environment.
+
+# The program's own default is a Windows path. Per user, since whoever starts it has to be able to write there.
+export PROGRAMDATA="${PROGRAMDATA:-${XDG_DATA_HOME:-$HOME/.local/share}}"
+# Qt's own event loop answers about a fifth more requests than GLib's.
+export QT_NO_GLIB=1
+
+if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}${QT_QPA_PLATFORM:-}" ]; then
+    echo "There is no display: the window is drawn off screen, everything else works as usual."
+    export QT_QPA_PLATFORM=offscreen
+fi

@@ -1,0 +1,37 @@
+# SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+# SPDX-License-Identifier: MIT
+"""The Linux package runs from wherever it is unpacked, in an environment that nobody has prepared."""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+import unittest.mock
+
+import harness
+
+
+class Package(unittest.TestCase):
+    def test_unpacked_package_runs(self):
+        with tempfile.TemporaryDirectory() as directory:
+            subprocess.run(["cpack", "-B", directory, "--config", os.environ["CPACK_CONFIGURATION"]], check=True)
+            package, = pathlib.Path(directory).glob("*.deb")
+            subprocess.run(["dpkg-deb", "--extract", package, directory], check=True)
+            with unittest.mock.patch.dict(os.environ, SIMULATOR=directory + "/usr/bin/ravel-monitor-orbis-simulator"):
+                for name in ("PROGRAMDATA", "XDG_DATA_HOME", "QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"):
+                    os.environ.pop(name, None)
+                simulator = harness.start(["--language", "fr_FR"])
+            self.assertIn(f'path: {os.environ["HOME"]}/.local/share/Pelmora/', simulator.log())
+            simulator.wait_for_log('Successfully set language to "fr_FR"')
+            simulator.wait_for_log("Added port for device")
+            simulator.stop()
+
+
+if __name__ == "__main__":
+    if not shutil.which("dpkg-shlibdeps"):
+        print("skipped: this system makes no Debian packages")
+        sys.exit(77)
+    unittest.main()
