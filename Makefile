@@ -34,6 +34,7 @@ lint:
 # Leaves what it makes in dist/.
 package:
 	scripts/package-windows
+	scripts/package-linux
 
 build:
 	cmake --preset $(PRESET) --log-level=WARNING
