@@ -7,6 +7,7 @@
 #include "common/helpers/networkhelper.h"
 #include "common/helpers/systemhelper.h"
 #include "common/modbus/modbustcpslave_p.h"
+#include "common/modbus/socketwatch.h"
 
 #include <QHostAddress>
 #include <QTcpServer>
@@ -93,6 +94,7 @@ void ModbusTcpSlavePrivate::init(ModbusTcpSlave *slave)
     q = slave;
     setParent(slave);
     m_server = new QTcpServer(this);
+    m_watch = new SocketWatch(this);
     connect(m_server, SIGNAL(newConnection()), this, SLOT(processNewClientConnection()));
     // Connections that are not taken at once stay with the system, where they hold no descriptor.
     m_server->setMaxPendingConnections(1);
@@ -128,7 +130,10 @@ void ModbusTcpSlavePrivate::adopt(QTcpSocket *client)
     // A master whose cable is pulled says no goodbye; the system finds out in about two hours.
     client->setSocketOption(QAbstractSocket::KeepAliveOption, 1);
     m_clients.append(client);
-    connect(client, SIGNAL(readyRead()), this, SLOT(processRequest()));
+    // With the socket as its own receiver: sender() searches all connections to a receiver, which takes
+    // longer than the answer when a thousand masters share one.
+    connect(client, &QTcpSocket::readyRead, client, [this, client] { serve(client); });
+    m_watch->add(client);
     connect(client, &QTcpSocket::bytesWritten, client, [client] { takeUpWaitingRequest(client); });
     // The server is the receiver, so that sockets which it deletes at the end of its life find nobody to
     // tell.
@@ -147,6 +152,11 @@ void ModbusTcpSlavePrivate::processRequest()
         qCCritical(lcModbus) << "Called from invalid or non-QTcpSocket object.";
         return;
     }
+    serve(socket);
+}
+
+void ModbusTcpSlavePrivate::serve(QTcpSocket *socket)
+{
     // A master that does not fetch its answer has to wait with its next request: otherwise every one of them
     // would hold up all other masters for the time-out of the blocking send. bytesWritten() takes it up
     // again.

@@ -15,6 +15,7 @@
 class ModbusTcpSlave;
 class QTcpServer;
 class QTcpSocket;
+class SocketWatch;
 
 class ModbusTcpSlavePrivate : public QObject
 {
@@ -47,12 +48,14 @@ public:
     QList<QTcpSocket *> m_clients; // children of m_server, deleted when they disconnect
     QMap<quint16, QVariant> m_registers;
     int m_maximumClients = 0;
+    SocketWatch *m_watch = nullptr;
 
 private slots:
     void processNewClientConnection();
-    void processRequest();
+    void processRequest(); // for sockets that somebody else accepted
 
 private:
     void adoptPendingClients();
     void adopt(QTcpSocket *client);
+    void serve(QTcpSocket *socket);
 };
