@@ -32,51 +32,11 @@ void addItem(QComboBox *picker, const QString &itemText, const QVariant &data)
     picker->addItem(QIcon(), itemText, data);
 }
 
-QJsonArray readCatalogue(bool *ok)
-{
-    *ok = false;
-    QFile file(QStringLiteral(":/alarmmapping"));
-    if (!file.open(QIODevice::ReadOnly)) {
-        qCCritical(lcGui) << "Unable to open event list from resources";
-        return {};
-    }
-    QJsonParseError error;
-    const auto document = QJsonDocument::fromJson(file.readAll(), &error);
-    if (error.error != QJsonParseError::NoError) {
-        qCCritical(lcGui) << "Failed parsing event list from resources:" << static_cast<int>(error.error);
-        return {};
-    }
-    *ok = true;
-    return document.array();
-}
-
 // The text in the current language, else the catalogue's own.
 QString alarmText(const QString &signature, const QString &message)
 {
     const QString translated = QCoreApplication::translate("Alarm Service", signature.toUtf8().constData());
     return translated == signature ? message : translated;
-}
-
-// Entry texts by signature. Of rows with the same signature the last one counts.
-QMap<QString, QString> pickerEntries(const QJsonArray &catalogue)
-{
-    const QFontMetrics metrics((QFont()));
-    QMap<QString, QString> entries;
-    for (const QJsonValue &value : catalogue) {
-        const QJsonObject row = value.toObject();
-        const QString signature = row.value(QLatin1String("signature")).toString();
-        bool ok = false;
-        signature.toUInt(&ok, 16);
-        if (!ok) {
-            qCCritical(lcCore) << "Cannot parse event signature" << signature;
-            continue;
-        }
-        const QString message = alarmText(signature, row.value(QLatin1String("message")).toString());
-        entries.insert(signature,
-                       metrics.elidedText(QStringLiteral("%1: %2").arg(signature, message), Qt::ElideRight,
-                                          maximumEntryWidth));
-    }
-    return entries;
 }
 
 } // namespace
@@ -216,14 +176,43 @@ void MainWindowPrivate::changeLanguage(const QString &language)
 
 void MainWindowPrivate::loadAlarms()
 {
-    bool ok = false;
-    const QJsonArray catalogue = readCatalogue(&ok);
-    if (!ok) {
+    QFile catalogue(QStringLiteral(":/alarmmapping"));
+    if (!catalogue.open(QIODevice::ReadOnly)) {
+        qCCritical(lcGui) << "Unable to open event list from resources";
         return;
     }
-    fillAlarmPicker(pickerEntries(catalogue));
-    fillImportancePicker();
-    fillActionPicker();
+    if (const auto entries = pickerEntries(catalogue.readAll())) {
+        fillAlarmPicker(*entries);
+        fillImportancePicker();
+        fillActionPicker();
+    }
+}
+
+std::optional<QMap<QString, QString>> MainWindowPrivate::pickerEntries(const QByteArray &catalogue)
+{
+    QJsonParseError error;
+    const QJsonArray rows = QJsonDocument::fromJson(catalogue, &error).array();
+    if (error.error != QJsonParseError::NoError) {
+        qCCritical(lcGui) << "Failed parsing event list from resources:" << static_cast<int>(error.error);
+        return {};
+    }
+    const QFontMetrics metrics((QFont()));
+    QMap<QString, QString> entries;
+    for (const QJsonValue &value : rows) {
+        const QJsonObject row = value.toObject();
+        const QString signature = row.value(QLatin1String("signature")).toString();
+        bool ok = false;
+        signature.toUInt(&ok, 16);
+        if (!ok) {
+            qCCritical(lcCore) << "Cannot parse event signature" << signature;
+            continue;
+        }
+        const QString message = alarmText(signature, row.value(QLatin1String("message")).toString());
+        entries.insert(signature,
+                       metrics.elidedText(QStringLiteral("%1: %2").arg(signature, message), Qt::ElideRight,
+                                          maximumEntryWidth));
+    }
+    return entries;
 }
 
 // Signatures in plain string order: "0x0" comes first, upper-case digits before lower-case ones.

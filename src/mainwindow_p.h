@@ -9,9 +9,9 @@
 #include <QObject>
 
 #include <memory>
+#include <optional>
 
 class MainWindow;
-class QJsonArray;
 
 namespace Ui {
 class MainWindow;
@@ -32,6 +32,11 @@ public:
     // Refills the three pickers from the alarm catalogue. A catalogue that cannot be read leaves them
     // untouched.
     void loadAlarms();
+
+    // Entry texts by signature, read from a catalogue's JSON text; of rows with the same signature the last
+    // one counts. Rows without a signature are left out, and what is not JSON gives no value, with a log line
+    // each.
+    static std::optional<QMap<QString, QString>> pickerEntries(const QByteArray &catalogue);
 
     std::unique_ptr<Ui::MainWindow> ui;
     bool running = false;

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+// SPDX-License-Identifier: MIT
+
+#include "common/other/snapshotvalue.h"
+#include "fuzztarget.h"
+
+#include <QDataStream>
+
+// One "binary://" value of the settings, freed from its Base64; what was read can be written again.
+static void fuzz(const QByteArray &input)
+{
+    if (const auto value = readSnapshotValue(input)) {
+        QByteArray bytes;
+        QDataStream stream(&bytes, QIODevice::WriteOnly);
+        stream << *value;
+    }
+}
