@@ -14,6 +14,7 @@ import subprocess
 import sys
 import tempfile
 import time
+import unittest
 
 DEADLINE = 30  # seconds; generous, for loaded machines and sanitizer builds
 
@@ -35,16 +36,14 @@ def require_namespaces():
         sys.exit(77)
 
 
-def wait_for_modbus():
-    """Returns once masters can connect."""
-    with socket.socket() as master:
-        wait_until(lambda: master.connect_ex(("127.0.0.1", 502)) == 0, "port 502")
+def shell(script):
+    subprocess.run(["sh", "-ec", script], check=True)
 
 
 def plug_in_card():
     """Gives this host a network card "lan", 192.168.7.1 with hardware address 02:00:00:00:00:01."""
-    subprocess.run(["sh", "-ec", "ip link add lan address 02:00:00:00:00:01 type veth peer name wire; "
-                    "ip link set wire up; ip link set lan up; ip address add 192.168.7.1/24 dev lan"], check=True)
+    shell("ip link add lan address 02:00:00:00:00:01 type veth peer name wire; ip link set wire up;"
+          "ip link set lan up; ip address add 192.168.7.1/24 dev lan")
 
 
 def command(*arguments, program="SIMULATOR"):
@@ -59,6 +58,21 @@ def write_to_channel(message):
     with socket.socket(socket.AF_UNIX) as channel:
         channel.connect(os.path.join(os.environ["TMPDIR"], "RavelMonitorOrbisSimulator"))
         channel.sendall(message)
+
+
+def connect():
+    """A master's connection, once the program serves."""
+    def attempt():
+        try:
+            return socket.create_connection(("127.0.0.1", 502), DEADLINE)
+        except OSError:
+            return None
+    return wait_until(attempt, "port 502")
+
+
+def ask(master, function_code, data):
+    master.sendall(bytes.fromhex("000100000006 01") + bytes([function_code]) + bytes.fromhex(data))
+    return master.recv(1024)[8:]
 
 
 class Simulator:
@@ -89,3 +103,17 @@ def start(arguments=(), environment=None):
     simulator = Simulator(arguments, environment or {})
     simulator.wait_for_log("Configuration base path: ")
     return simulator
+
+
+class TestCase(unittest.TestCase):
+    """Ends cleanly what it starts, with masters connected."""
+
+    def start(self, *arguments, environment=None):
+        simulator = start(arguments, environment)
+        self.addCleanup(simulator.stop)
+        return simulator
+
+    def connect(self):
+        master = connect()
+        self.addCleanup(master.close)
+        return master

@@ -7,7 +7,6 @@ import ctypes
 import os
 import select
 import socket
-import subprocess
 import unittest
 
 import harness
@@ -27,7 +26,7 @@ class OtherHost:
         ctypes.CDLL(None).unshare(NEW_NETWORK)
         self.path = f"/proc/{os.getpid()}/fd/{os.open('/proc/self/ns/net', os.O_RDONLY)}"
         with self:
-            run("ip link add lan type bridge; ip address add 192.168.7.9/24 dev lan; ip link set lan up;"
+            harness.shell("ip link add lan type bridge; ip address add 192.168.7.9/24 dev lan; ip link set lan up;"
                 "ip route add default dev lan")
 
     def __enter__(self):
@@ -37,11 +36,11 @@ class OtherHost:
         self._enter(self._home, NEW_NETWORK)
 
     def plug_in(self, card):
-        run(f"ip link add card{card} address 02:00:00:00:00:0{card} type veth peer port{card} netns {self.path};"
+        harness.shell(f"ip link add card{card} address 02:00:00:00:00:0{card} type veth peer port{card} netns {self.path};"
             f"ip address add 192.168.7.{card}/24 dev card{card}; ip link set card{card} up")
         with self:
-            run(f"ip link set port{card} master lan up")
-        run(f"until ip link show card{card} | grep -q 'state UP'; do sleep 0.1; done")
+            harness.shell(f"ip link set port{card} master lan up")
+        harness.shell(f"until ip link show card{card} | grep -q 'state UP'; do sleep 0.1; done")
 
     def bind(self, port):
         with self:
@@ -52,10 +51,6 @@ class OtherHost:
         return result
 
 
-def run(script):
-    subprocess.run(["sh", "-ec", script], check=True)
-
-
 class Discovery(unittest.TestCase):
     def test_device_is_found_through_one_and_two_cards(self):
         host = OtherHost()
@@ -63,7 +58,7 @@ class Discovery(unittest.TestCase):
             host.plug_in(cards)
             if cards == 1:
                 # By way of a gateway: with a bare default route Wine finds no interfaces at all.
-                run("ip route add default via 192.168.7.9")
+                harness.shell("ip route add default via 192.168.7.9")
             simulator = harness.start(["--sn", "ABC123"])
             simulator.wait_for_log(f'Added port for device "02:00:00:00:00:0{cards}"')
             with host.bind(0) as requester, host.bind(45124) as responses:

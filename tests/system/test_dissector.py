@@ -24,7 +24,7 @@ class Dissector(unittest.TestCase):
         simulator = harness.start(["--sn", "ABC123"])
         self.addCleanup(simulator.stop)
         simulator.wait_for_log('with ip "192.168.7.1"')
-        harness.wait_for_modbus()
+        harness.connect().close()
         with subprocess.Popen(CAPTURE, stdout=subprocess.PIPE, stderr=subprocess.PIPE) as capture:
             next(line for line in capture.stderr if b"File:" in line)
             for command in ["discover.py 192.168.7.1", *("ask.py 127.0.0.1 " + request for request in REQUESTS)]:

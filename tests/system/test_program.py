@@ -7,7 +7,6 @@ import json
 import os
 import pathlib
 import re
-import socket
 import struct
 import subprocess
 import unittest
@@ -22,31 +21,10 @@ def send_url(url):
     harness.write_to_channel(struct.pack(">I", len(url)) + url)
 
 
-def ask(master, function_code, data):
-    master.sendall(bytes.fromhex("000100000006 01") + bytes([function_code]) + bytes.fromhex(data))
-    return master.recv(1024)[8:]
-
-
-class Program(unittest.TestCase):
-    def start(self, *arguments, environment=None):
-        simulator = harness.start(arguments, environment)
-        self.addCleanup(simulator.stop)
-        return simulator
-
-    def connect(self):
-        master = harness.wait_until(self.try_to_connect, "port 502")
-        self.addCleanup(master.close)
-        return master
-
-    def try_to_connect(self):
-        try:
-            return socket.create_connection(("127.0.0.1", 502), harness.DEADLINE)
-        except ConnectionRefusedError:
-            return None
-
+class Program(harness.TestCase):
     def test_identity_and_settings(self):
         first = self.start()
-        serial_number = ask(self.connect(), 103, "1627")
+        serial_number = harness.ask(self.connect(), 103, "1627")
         self.assertEqual(serial_number.decode(), (CONFIGURATION / "sn_cache").read_text())
         first.wait_for_log("Failed reading bucket snapshot from")
         first.wait_for_log('Successfully set language to "de_DE"')
@@ -56,14 +34,14 @@ class Program(unittest.TestCase):
         settings.write_text(json.dumps({"native:///language": "en_GB", "odd": 1}))
         self.addCleanup(settings.unlink)
         second = self.start()
-        self.assertEqual(ask(self.connect(), 103, "1627"), serial_number)
+        self.assertEqual(harness.ask(self.connect(), 103, "1627"), serial_number)
         second.wait_for_log('Language from config file: "en_GB"')
         second.wait_for_log('Snapshot key "odd" is malformed.')
 
     def test_command_line(self):
         simulator = self.start("--sn", "ABC123", "--language", "en_US", "--factorytech",
                                environment={"TP_PD": "other"})
-        self.assertEqual(ask(self.connect(), 103, "1627"), b"ABC123")
+        self.assertEqual(harness.ask(self.connect(), 103, "1627"), b"ABC123")
         simulator.wait_for_log('Successfully set language to "en_US"')
         simulator.wait_for_log('Cannot parse event signature "0x3102000b-abscheider"')
         self.assertTrue((CONFIGURATION / "other").is_dir())
@@ -92,7 +70,7 @@ class Program(unittest.TestCase):
     def test_ends_cleanly_with_masters_connected(self):
         simulator = self.start()
         master = self.connect()
-        self.assertEqual(ask(master, 3, "07F00002").hex(), "04000040a0")
+        self.assertEqual(harness.ask(master, 3, "07F00002").hex(), "04000040a0")
         simulator.stop()
 
     def test_inaccessible_configuration(self):

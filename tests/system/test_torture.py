@@ -1,0 +1,114 @@
+# SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+# SPDX-License-Identifier: MIT
+
+"""What the system denies the running program and what its masters demand: it says so, lives on and serves again."""
+
+import contextlib
+import os
+import select
+import socket
+import time
+import unittest
+import unittest.mock
+
+import harness
+
+CONFIGURATION = "Pelmora/Ravel Monitor Orbis Simulator"
+READ_EVERYTHING = bytes.fromhex("0001 0000 0006 01 03 0000 FFFF")
+
+
+@contextlib.contextmanager
+def taken(kind, *ports):
+    with contextlib.ExitStack() as stack:
+        for port in ports:
+            stack.enter_context(socket.socket(socket.AF_INET, kind)).bind(("", port))
+        yield
+
+
+@contextlib.contextmanager
+def disk(options, script):
+    """A file system of its own below the configuration directory, in which the script runs."""
+    harness.shell(f'mount -t tmpfs {options} none "$PROGRAMDATA"; cd "$PROGRAMDATA"; mkdir -p "{CONFIGURATION}"; {script}')
+    yield
+    harness.shell('umount "$PROGRAMDATA"')
+
+
+class Torture(harness.TestCase):
+    def check_served(self, master):
+        self.assertEqual(harness.ask(master, 3, "0FCA0002").hex(), "0400004100")
+
+    def test_denied(self):
+        no_cache = "Could not write uuid to cache:"
+        for cause, line, served in [
+                (taken(socket.SOCK_STREAM, 502), "Failed listening on port 502", False),
+                (taken(socket.SOCK_DGRAM, 45123, 45124), 'Failed binding response socket "0.0.0.0" to port 45124', True),
+                (disk("", "mount -o remount,ro ."), no_cache, True),
+                (disk("-o size=4k", "head -c 4096 /dev/zero >filler"), no_cache, True),
+                (disk("", f'mkdir "{CONFIGURATION}/sn_cache"'), "Could not read cache file:", True)]:
+            with self.subTest(line):
+                with cause:
+                    self.check_one_run(served).wait_for_log(line)
+                self.assertNotIn(line, self.check_one_run(True).log())
+
+    def check_one_run(self, served):
+        simulator = self.start()
+        simulator.wait_for_log("Added port for device")
+        if served:
+            self.check_served(self.connect())
+        simulator.stop()
+        return simulator
+
+    def test_network_appears_later(self):
+        harness.shell("ip link set lo down")
+        simulator = self.start()
+        simulator.wait_for_log("Successfully set language")
+        harness.shell("ip link set lo up")
+        self.check_served(self.connect())
+
+    def test_descriptors_are_few(self):
+        with unittest.mock.patch.dict(os.environ, SIMULATOR_LAUNCHER="prlimit --nofile=64"):
+            simulator = self.start()
+        masters = [self.connect() for _ in range(64)]
+        simulator.wait_for_log("Further Modbus masters have to wait, connected are")
+        for master in masters:
+            master.close()
+        self.check_served(self.connect())
+
+    def test_load(self):
+        simulator = self.start()
+        master = self.connect()
+        with self.subTest("1,000 datagrams a second"), socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as flood:
+            end = time.monotonic() + 2
+            while time.monotonic() < end:
+                for request in [b"D", b"G 00:00:00:00:00:00", b"\xff", b"G" * 65507, b""] * 2:
+                    flood.sendto(request, ("127.0.0.1", 45123))
+                self.check_served(master)
+                time.sleep(0.01)
+
+        with self.subTest("a master that does not read"):
+            stuck = self.connect()
+            stuck.setblocking(False)
+            with contextlib.suppress(BlockingIOError):
+                for _ in range(20000):
+                    stuck.sendall(READ_EVERYTHING)
+            begin = time.monotonic()
+            for _ in range(100):
+                self.check_served(master)
+            self.assertLess(time.monotonic() - begin, 10)  # one wait of 2 seconds and not one for each request
+            while select.select([stuck], [], [], 3)[0]:
+                stuck.recv(1 << 20)
+            stuck.settimeout(harness.DEADLINE)
+            self.check_served(stuck)
+
+        with self.subTest("connections that come and go"):
+            descriptors = f"/proc/{simulator.process.pid}/fd"
+            before = len(os.listdir(descriptors))
+            for _ in range(200):
+                with harness.connect() as guest:
+                    self.check_served(guest)
+            harness.wait_until(lambda: len(os.listdir(descriptors)) == before, "the descriptors of gone masters")
+
+
+if __name__ == "__main__":
+    harness.require_namespaces()
+    unittest.main()
