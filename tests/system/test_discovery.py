@@ -3,37 +3,23 @@
 
 """Another host, connected to this one by a bridge, discovers the running program."""
 
-import ctypes
-import os
 import select
-import socket
 import unittest
 
 import harness
+from harness import run
 
-NEW_NETWORK = 0x40000000  # CLONE_NEWNET
 TITLE = b"\tDuo Orbis 7316-20 ABC123\tOrbis Simulator"
 PROPERTIES = (b"\tdhcp=off\ndevicetype=21123642\nREF=7316-20\nREF_Name=Duo Orbis\nPCB_SN=ABC123\n"
               b"addr1=127.0.0.1\nmask1=255.0.0.0\n")
 
 
-class OtherHost:
-    """A network namespace of its own. Sockets and commands made in "with" belong to it."""
-
+class OtherHost(harness.Host):
     def __init__(self):
-        self._enter = ctypes.CDLL(None).setns
-        self._home = os.open("/proc/self/ns/net", os.O_RDONLY)
-        ctypes.CDLL(None).unshare(NEW_NETWORK)
-        self.path = f"/proc/{os.getpid()}/fd/{os.open('/proc/self/ns/net', os.O_RDONLY)}"
+        super().__init__()
         with self:
             harness.shell("ip link add lan type bridge; ip address add 192.168.7.9/24 dev lan; ip link set lan up;"
                 "ip route add default dev lan")
-
-    def __enter__(self):
-        self._enter(int(self.path.rpartition("/")[2]), NEW_NETWORK)
-
-    def __exit__(self, *_):
-        self._enter(self._home, NEW_NETWORK)
 
     def plug_in(self, card):
         harness.shell(f"ip link add card{card} address 02:00:00:00:00:0{card} type veth peer port{card} netns {self.path};"
@@ -44,11 +30,7 @@ class OtherHost:
 
     def bind(self, port):
         with self:
-            result = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
-        result.setsockopt(socket.SOL_SOCKET, socket.SO_BROADCAST, 1)
-        result.settimeout(harness.DEADLINE)
-        result.bind(("", port))
-        return result
+            return harness.udp_socket("", port)
 
 
 class Discovery(unittest.TestCase):
