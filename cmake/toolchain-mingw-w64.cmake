@@ -27,4 +27,4 @@ file(GLOB host_linguist_tools /usr/lib/*/cmake/Qt5LinguistTools /usr/lib*/cmake/
 list(GET host_linguist_tools 0 Qt5LinguistTools_DIR)
 
 # Programs of the build run under Wine.
-set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../tests/wine/launch")
+set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../packaging/windows/test/launch")
