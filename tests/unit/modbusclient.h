@@ -5,8 +5,10 @@
 
 #pragma once
 
+#include "testdata.h"
+
+#include <QSignalSpy>
 #include <QTcpSocket>
-#include <QTest>
 
 class ModbusClient : public QTcpSocket
 {
@@ -25,23 +27,45 @@ public:
         }
     }
 
-    // What comes back for a frame, both as hexadecimal text without header lengths to compute; empty after 5
-    // s.
+    // What comes back for a frame; as much as there is after 5 s.
     QByteArray exchange(const QByteArray &request, int answerSize)
     {
         write(QByteArray::fromHex(request));
         (void)QTest::qWaitFor([&] { return bytesAvailable() >= answerSize; });
-        return readAll().toHex(' ');
+        return readAll();
     }
 
-    // Data of the answer to one request with the header 0001 0000 .... 01.
+    // Data of the answer to one request.
     QByteArray ask(quint8 functionCode, const QByteArray &data)
     {
-        const QByteArray pdu = QByteArray(1, static_cast<char>(functionCode)) + QByteArray::fromHex(data);
-        write(QByteArray::fromHex("000100000006"
-                                  "01")
-              + pdu);
-        (void)QTest::qWaitFor([this] { return bytesAvailable() >= 8; });
-        return readAll().mid(8);
+        return exchange("0001 0000 0006 01" + QByteArray(1, static_cast<char>(functionCode)).toHex() + data, 8).mid(8);
     }
 };
+
+// Plays the steps of a conversation with a device in this thread:
+//   > bytes       the master sends them, and the device reads them at once
+//   < bytes       are what comes back next
+//   ! text        a warning that the next step causes
+//   slot [number] calls the device's slot
+inline void play(const QStringList &steps, ModbusClient &client, QObject *device)
+{
+    for (const QString &step : steps) {
+        const QString verb = step.section(u' ', 0, 0);
+        const QString rest = step.section(u' ', 1);
+        const QByteArray bytes = QByteArray::fromHex(rest.toLatin1());
+        if (verb == ">"_s) {
+            const QSignalSpy read(device->findChild<QTcpSocket *>(), &QTcpSocket::readyRead);
+            client.write(bytes);
+            QTRY_COMPARE(read.count(), 1);
+        } else if (verb == "<"_s) {
+            QTRY_VERIFY(client.bytesAvailable() >= bytes.size());
+            QCOMPARE(client.read(bytes.size()).toHex(' '), bytes.toHex(' '));
+        } else if (verb == "!"_s) {
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(rest));
+        } else {
+            const auto number = static_cast<int>(rest.toUInt(nullptr, 0));
+            QVERIFY(QMetaObject::invokeMethod(device, qPrintable(verb), rest.isEmpty() ? QGenericArgument() : Q_ARG(int, number)));
+        }
+    }
+    QCOMPARE(client.bytesAvailable(), 0);
+}

@@ -3,7 +3,7 @@
 
 #include "common/i18n/languagemanager.h"
 #include "common/other/unifiedstorage.h"
-#include "textliteral.h"
+#include "testdata.h"
 
 #include <QProcess>
 #include <QtTest>

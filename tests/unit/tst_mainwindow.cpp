@@ -7,7 +7,7 @@
 #include "common/i18n/languagemanager.h"
 #include "common/other/unifiedstorage.h"
 #include "mainwindow.h"
-#include "textliteral.h"
+#include "testdata.h"
 
 #include <QComboBox>
 #include <QFile>

@@ -6,7 +6,7 @@
 #include "common/helpers/systemhelper.h"
 #include "modbusclient.h"
 #include "modbusmanager.h"
-#include "textliteral.h"
+#include "testdata.h"
 
 #include <QDateTime>
 #include <QPropertyAnimation>

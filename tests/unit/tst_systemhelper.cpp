@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "common/helpers/systemhelper.h"
-#include "textliteral.h"
+#include "testdata.h"
 
 #include <QDir>
 #include <QRegularExpression>

@@ -4,7 +4,7 @@
 #include "common/helpers/networkhelper.h"
 #include "common/other/snapshotvalue.h"
 #include "common/other/unifiedstorage.h"
-#include "textliteral.h"
+#include "testdata.h"
 
 #include <QtGui>
 #include <QtTest>

@@ -3,7 +3,7 @@
 
 #include "common/other/urllistenerpeer.h"
 #include "common/other/urllistenerpeer_p.h"
-#include "textliteral.h"
+#include "testdata.h"
 
 #include <QLocalSocket>
 #include <QtTest>
