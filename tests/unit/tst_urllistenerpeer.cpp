@@ -13,76 +13,58 @@ class TestUrlListenerPeer : public QObject
     Q_OBJECT
 
 private slots:
-    void sentBytes();
-    void messages_data();
-    void messages();
-    void nobodyThere();
-};
-
-void TestUrlListenerPeer::sentBytes()
-{
-    QLocalServer server;
-    QVERIFY(server.listen("channel"_s));
-    UrlListenerPeer peer(nullptr, "channel"_s);
-    for (const QUrl &url : {QUrl(), QUrl("x:/a?b=ü"_s)}) {
-        QVERIFY(peer.sendUrl(url));
-        QVERIFY(server.waitForNewConnection(5000));
-        QLocalSocket *socket = server.nextPendingConnection();
-        QTRY_COMPARE(socket->state(), QLocalSocket::UnconnectedState);
-        QCOMPARE(socket->readAll().toHex(' '),
-                 QByteArray(url.isEmpty() ? "ff ff ff ff" : "00 00 00 0d 78 3a 2f 61 3f 62 3d 25 43 33 25 42 43"));
+    void sentBytes()
+    {
+        QLocalServer server;
+        QVERIFY(server.listen("channel"_s));
+        UrlListenerPeer peer(nullptr, "channel"_s);
+        for (const QUrl &url : {QUrl(), QUrl("x:/a?b=ü"_s)}) {
+            QVERIFY(peer.sendUrl(url));
+            QVERIFY(server.waitForNewConnection(5000));
+            QLocalSocket *socket = server.nextPendingConnection();
+            QTRY_COMPARE(socket->state(), QLocalSocket::UnconnectedState);
+            QCOMPARE(socket->readAll().toHex(' '),
+                     QByteArray(url.isEmpty() ? "ff ff ff ff" : "00 00 00 0d 78 3a 2f 61 3f 62 3d 25 43 33 25 42 43"));
+        }
     }
-}
 
-void TestUrlListenerPeer::messages_data()
-{
-    QTest::addColumn<QByteArray>("hex");
-    QTest::addColumn<QStringList>("received");
-    QTest::newRow("URL") << QByteArray("00000003 783a61") << QStringList("x:a"_s);
-    QTest::newRow("bytes left over") << QByteArray("00000003 783a61 ff") << QStringList("x:a"_s);
-    QTest::newRow("empty") << QByteArray("ffffffff") << QStringList();
-    QTest::newRow("silent") << QByteArray() << QStringList();
-    QTest::newRow("half a length") << QByteArray("0000") << QStringList();
-    QTest::newRow("last byte missing") << QByteArray("00000004 783a61") << QStringList();
-    QTest::newRow("4 billion bytes") << QByteArray("fffffffe 783a61") << QStringList();
-    QTest::newRow("no URL") << QByteArray("00000003 3a3a3a") << QStringList();
-}
+    void messages_data() { addRows("messages.txt"); }
+    // Whatever one sender does, the next one is heard, and nothing of either is kept.
+    void messages()
+    {
+        QFETCH(QStringList, steps);
+        const QByteArray message = QByteArray::fromHex(steps.takeFirst().mid(2).toLatin1());
+        UrlListenerPeer peer(nullptr, "channel"_s);
+        QFile stale(QDir::temp().filePath("channel"_s)); // what a crashed instance leaves
+        QVERIFY(stale.open(QIODevice::WriteOnly));
+        peer.startServer();
+        const auto *listener = peer.findChild<UrlListenerPeerPrivate *>();
+        QSignalSpy instances(listener, SIGNAL(newInstance()));
+        QStringList urls;
+        connect(&peer, &UrlListenerPeer::urlReceived, this, [&](const QUrl &url) { urls += url.toString(); });
 
-// Whatever one sender does, the next one is heard, and nothing of either is kept.
-void TestUrlListenerPeer::messages()
-{
-    QFETCH(QByteArray, hex);
-    QFETCH(QStringList, received);
-    UrlListenerPeer peer(nullptr, "channel"_s);
-    QFile stale(QDir::temp().filePath("channel"_s)); // what a crashed instance leaves
-    QVERIFY(stale.open(QIODevice::WriteOnly));
-    peer.startServer();
-    const auto *listener = peer.findChild<UrlListenerPeerPrivate *>();
-    QSignalSpy instances(listener, SIGNAL(newInstance()));
-    QStringList urls;
-    connect(&peer, &UrlListenerPeer::urlReceived, this, [&](const QUrl &url) { urls += url.toString(); });
+        QLocalSocket sender;
+        sender.connectToServer("channel"_s);
+        sender.write(message);
+        QTRY_VERIFY(message.isEmpty() || sender.state() == QLocalSocket::UnconnectedState);
+        QVERIFY(UrlListenerPeer::instance("channel"_s)->sendUrl(QUrl("x:next"_s)));
+        QTRY_COMPARE(urls, steps + QStringList("x:next"_s));
+        QCOMPARE(instances.count(), 2);
+        sender.abort();
+        QTRY_VERIFY(listener->m_server.findChildren<QLocalSocket *>().isEmpty());
+    }
 
-    QLocalSocket sender;
-    sender.connectToServer("channel"_s);
-    sender.write(QByteArray::fromHex(hex));
-    QTRY_VERIFY(hex.isEmpty() || sender.state() == QLocalSocket::UnconnectedState);
-    QVERIFY(UrlListenerPeer::instance("channel"_s)->sendUrl(QUrl("x:next"_s)));
-    QTRY_COMPARE(urls, received + QStringList("x:next"_s));
-    QCOMPARE(instances.count(), 2);
-    sender.abort();
-    QTRY_VERIFY(listener->m_server.findChildren<QLocalSocket *>().isEmpty());
-}
-
-void TestUrlListenerPeer::nobodyThere()
-{
-    QVERIFY_EXCEPTION_THROWN(UrlListenerPeer::instance("unknown"_s), std::bad_alloc);
-    UrlListenerPeer peer(nullptr, "/missing/channel"_s);
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^\".+\" ErrorCode: [0-9]+$"_s));
-    peer.startServer();
-    QTest::ignoreMessage(QtInfoMsg, "Sending url \"\" to \"/missing/channel\"");
-    QTest::ignoreMessage(QtInfoMsg, QRegularExpression("^Connection failed: \".+\"$"_s));
-    QVERIFY(!peer.sendUrl(QUrl()));
-}
+    void nobodyThere()
+    {
+        QVERIFY_EXCEPTION_THROWN(UrlListenerPeer::instance("unknown"_s), std::bad_alloc);
+        UrlListenerPeer peer(nullptr, "/missing/channel"_s);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^\".+\" ErrorCode: [0-9]+$"_s));
+        peer.startServer();
+        QTest::ignoreMessage(QtInfoMsg, "Sending url \"\" to \"/missing/channel\"");
+        QTest::ignoreMessage(QtInfoMsg, QRegularExpression("^Connection failed: \".+\"$"_s));
+        QVERIFY(!peer.sendUrl(QUrl()));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestUrlListenerPeer)
 #include "tst_urllistenerpeer.moc"
