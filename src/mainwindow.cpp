@@ -167,7 +167,7 @@ void MainWindowPrivate::changeAlarmAction()
 void MainWindowPrivate::changeLanguage(const QString &language)
 {
     LanguageManager *manager = LanguageManager::instance();
-    if (!manager || language.isEmpty() || language == manager->currentLanguage()) {
+    if (manager == nullptr || language.isEmpty() || language == manager->currentLanguage()) {
         return;
     }
     qCInfo(lcCore) << "Changing Language to" << language;
@@ -190,7 +190,7 @@ void MainWindowPrivate::loadAlarms()
 
 std::optional<QMap<QString, QString>> MainWindowPrivate::pickerEntries(const QByteArray &catalogue)
 {
-    QJsonParseError error;
+    QJsonParseError error{};
     const QJsonArray rows = QJsonDocument::fromJson(catalogue, &error).array();
     if (error.error != QJsonParseError::NoError) {
         qCCritical(lcGui) << "Failed parsing event list from resources:" << static_cast<int>(error.error);

@@ -215,7 +215,7 @@ quint32 ModbusTcpSlavePrivate::valueBits(const QVariant &value)
     case QMetaType::Float:
     case QMetaType::Double:
         std::memcpy(&bits, value.constData(),
-                    std::min<std::size_t>(sizeof bits, QMetaType(value.userType()).sizeOf()));
+                    std::min(sizeof bits, static_cast<std::size_t>(QMetaType(value.userType()).sizeOf())));
         break;
     default:
         break;
