@@ -104,13 +104,14 @@ void ModbusManager::removeMotorShortcircuitAlarm()
 ModbusManagerPrivate::ModbusManagerPrivate(ModbusManager *manager)
     : QObject(manager), m_slave(new VarnoModbusTcpSlave(this)), q(manager)
 {
-    // clang-format off: blanks in a signature cost Qt a normalisation each time it is looked up
-    connect(m_slave, SIGNAL(holdingRegisterRead(quint16, quint16)), this,
-            SLOT(updateIteratorRegister(quint16, quint16)));
-    connect(m_slave, SIGNAL(holdingRegisterWritten(quint16, quint16)), this,
-            SLOT(resetIteratorRegister(quint16, quint16)));
-    connect(m_slave, SIGNAL(holdingRegisterWritten(quint16, quint16)), this,
-            SLOT(handleMotorShortcircuitAlarmConfirmation(quint16, quint16)));
+    // Blanks in a signature would cost Qt a normalisation.
+    // clang-format off
+    connect(m_slave, SIGNAL(holdingRegisterRead(quint16,quint16)),
+            this, SLOT(updateIteratorRegister(quint16,quint16)));
+    connect(m_slave, SIGNAL(holdingRegisterWritten(quint16,quint16)),
+            this, SLOT(resetIteratorRegister(quint16,quint16)));
+    connect(m_slave, SIGNAL(holdingRegisterWritten(quint16,quint16)),
+            this, SLOT(handleMotorShortcircuitAlarmConfirmation(quint16,quint16)));
     // clang-format on
 
     declareProperties();
