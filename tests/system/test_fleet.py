@@ -23,7 +23,8 @@ class Fleet(unittest.TestCase):
             harness.shell(f"ip link set lo up; ip address add 192.168.7.{number}/24 dev card; ip link set card up;"
                         "ip route add default via 192.168.7.254")
             simulator = harness.start(["--sn", f"SN{number}"], dict.fromkeys(["TMPDIR", "PROGRAMDATA"], scratch.name))
-        self.addCleanup(simulator.stop)
+            self.addCleanup(simulator.stop)
+            harness.wait_for_modbus()
         simulator.wait_for_log(f'Added port for device "{card}"')
 
     def discover(self):
