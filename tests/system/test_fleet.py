@@ -24,7 +24,7 @@ class Fleet(unittest.TestCase):
                         "ip route add default via 192.168.7.254")
             simulator = harness.start(["--sn", f"SN{number}"], dict.fromkeys(["TMPDIR", "PROGRAMDATA"], scratch.name))
             self.addCleanup(simulator.stop)
-            harness.wait_for_modbus()
+            harness.connect().close()
         simulator.wait_for_log(f'Added port for device "{card}"')
 
     def discover(self):
@@ -47,9 +47,8 @@ class Fleet(unittest.TestCase):
 
         for number in DEVICES:
             with socket.create_connection((f"192.168.7.{number}", 502), harness.DEADLINE) as master:
-                for request, answer in ((b"\3\7\xf0\0\2", b"\3\4\0\0\x40\xa0"), (b"\x67\x16\x27", b"\x67SN%d" % number)):
-                    master.sendall(bytes.fromhex("0001 0000 0006 01") + request)
-                    self.assertEqual(master.recv(1024)[7:], answer)
+                self.assertEqual(harness.ask(master, 3, "07F00002").hex(), "04000040a0")
+                self.assertEqual(harness.ask(master, 103, "1627"), b"SN%d" % number)
 
 
 if __name__ == "__main__":
