@@ -7,7 +7,6 @@ import select
 import unittest
 
 import harness
-from harness import run
 
 TITLE = b"\tDuo Orbis 7316-20 ABC123\tOrbis Simulator"
 PROPERTIES = (b"\tdhcp=off\ndevicetype=21123642\nREF=7316-20\nREF_Name=Duo Orbis\nPCB_SN=ABC123\n"
@@ -19,11 +18,11 @@ class OtherHost(harness.Host):
         super().__init__()
         with self:
             harness.shell("ip link add lan type bridge; ip address add 192.168.7.9/24 dev lan; ip link set lan up;"
-                "ip route add default dev lan")
+                          "ip route add default dev lan")
 
     def plug_in(self, card):
-        harness.shell(f"ip link add card{card} address 02:00:00:00:00:0{card} type veth peer port{card} netns {self.path};"
-            f"ip address add 192.168.7.{card}/24 dev card{card}; ip link set card{card} up")
+        harness.shell(f"ip link add card{card} address 02:00:00:00:00:0{card} type veth peer port{card} "
+                      f"netns {self.path}; ip address add 192.168.7.{card}/24 dev card{card}; ip link set card{card} up")
         with self:
             harness.shell(f"ip link set port{card} master lan up")
         harness.shell(f"until ip link show card{card} | grep -q 'state UP'; do sleep 0.1; done")

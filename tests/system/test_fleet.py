@@ -16,12 +16,12 @@ class Fleet(unittest.TestCase):
         """Returns once the device is on the network: twenty starts at once would keep each other waiting."""
         host, card = harness.Host(), f"02:00:00:00:00:{number:02}"
         harness.shell(f"ip link add port{number} type veth peer name card address {card} netns {host.path};"
-                    f"ip link set port{number} master lan up")
+                      f"ip link set port{number} master lan up")
         scratch = tempfile.TemporaryDirectory()
         self.addCleanup(scratch.cleanup)
         with host:
             harness.shell(f"ip link set lo up; ip address add 192.168.7.{number}/24 dev card; ip link set card up;"
-                        "ip route add default via 192.168.7.254")
+                          "ip route add default via 192.168.7.254")
             simulator = harness.start(["--sn", f"SN{number}"], dict.fromkeys(["TMPDIR", "PROGRAMDATA"], scratch.name))
             self.addCleanup(simulator.stop)
             harness.connect().close()
