@@ -10,6 +10,11 @@
 
 #include <memory>
 
+static QString hello()
+{
+    return QCoreApplication::translate("GUI", "Hallo");
+}
+
 class TestLanguageManager : public QObject
 {
     Q_OBJECT
@@ -23,127 +28,113 @@ public:
     }
 
 private slots:
-    void init();
-    void choices();
-    void loading();
-    void switching();
-    void formats();
+    void init()
+    {
+        m_storage.clear();
+        m_directory = std::make_unique<QTemporaryDir>();
+        m_path = m_directory->filePath("app"_s);
+    }
+
+    void choices()
+    {
+        QCOMPARE(choice({"de_AT"_s, "de_DE"_s}, ""_s), "de_AT"_s);
+        QCOMPARE(choice({"de_CH"_s, "de_DE"_s}, ""_s), "de_CH"_s);
+        QCOMPARE(choice({"da_DK"_s, "en_GB"_s}, ""_s), "en_GB"_s);
+        QCOMPARE(choice({"de_AT"_s, "fr_FR"_s}, "fr_FR"_s), "fr_FR"_s);
+        QTest::ignoreMessage(QtWarningMsg, "Language \"fr_FR\" is not available.");
+        QCOMPARE(choice({"de_AT"_s, "en_GB"_s}, "fr_FR"_s), "none"_s);
+    }
+
+    void loading()
+    {
+        translate({"de_DE"_s, "de_AT"_s, "en_GB"_s, "../qt/qt_de"_s, "../unvisited/fr_FR"_s});
+        QFile empty(m_path + "/empty.qm"_s); // holds only what tells a .qm file
+        QVERIFY(empty.open(QIODevice::WriteOnly));
+        QVERIFY(empty.write(QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd")) == 16 && empty.flush());
+        QVERIFY(QFile::rename(m_path + "/en_GB.ts"_s, m_path + "/text.qm"_s));
+        for (const QString &line :
+             {"Failed loading because language is empty from \"%1/app/empty.qm\""_s, "Failed loading language from \"%1/app/text.qm\""_s,
+              "Failed loading language from \"%1/qt/qt_en.qm\""_s, "The path \"%1/app/missing\" doesn't exist."_s}) {
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(line.arg(m_directory->path())));
+        }
+        LanguageManager manager({m_path, m_path + "/missing"_s, m_path + "/../unvisited"_s}, nullptr);
+        QSignalSpy available(&manager, SIGNAL(availableLanguagesChanged(QStringList)));
+        manager.setCultures({"fr_FR"_s});
+        QCOMPARE(available.value(0).value(0).toStringList(), QStringList({"de_AT"_s, "de_DE"_s, "en_GB"_s}));
+        QCOMPARE(manager.findChildren<QTranslator *>().count(), 4); // de_AT alone has the toolkit's file
+        QCOMPARE(hello(), "de_AT"_s);
+    }
+
+    void switching()
+    {
+        translate({"de_DE"_s, "en_GB"_s});
+        auto manager = std::make_unique<LanguageManager>(m_path, nullptr);
+        const LanguageManager second(QStringList(), nullptr);
+        QCOMPARE(LanguageManager::instance(), manager.get());
+
+        QSignalSpy changed(manager.get(), SIGNAL(languageChanged(QString)));
+        manager->setLanguage("en_GB"_s);
+        QCOMPARE(changed.value(0).value(0).toString(), "en_GB"_s);
+        QCOMPARE(QLocale(), QLocale("en_GB"_s));
+        QCOMPARE(hello(), "en_GB"_s);
+
+        for (QTranslator *translator : manager->findChildren<QTranslator *>()) {
+            QVERIFY(!translator->load(QString())); // leaves it empty, and an empty one is not installed
+        }
+        QTest::ignoreMessage(QtWarningMsg, "Failed to install new translator.");
+        manager->setLanguage("de_DE"_s);
+        QCOMPARE(manager->currentLanguage(), "en_GB"_s);
+        QCOMPARE(changed.count(), 1);
+        manager.reset();
+        QVERIFY(!LanguageManager::instance());
+    }
+
+    void formats()
+    {
+        translate({"de_DE"_s});
+        const LanguageManager german(m_path, nullptr);
+        const QDate date(2024, 3, 1);
+        const QDateTime late(date, {23, 30}, Qt::UTC);
+        QCOMPARE(german.languageName("fr_FR"_s), "Français"_s);
+        QCOMPARE(german.localDateString({}) + german.localTimeString({}) + german.localDateTimeString({}), ""_s);
+        QCOMPARE(german.localDateStringFromIsoString("2024-03-01"_s), "01.03.24"_s);
+        QCOMPARE(german.localDateTimeString({date, {0, 0}, Qt::UTC}), "01.03.24"_s);
+        QCOMPARE(german.localDateTimeString({date, {0, 0, 1}, Qt::UTC}), "01.03.24 01:00"_s);
+        QCOMPARE(german.localDateTimeString({date, {7, 5}}), "01.03.24 07:05"_s);
+        QCOMPARE(german.localDateTimeStringFromUtcString("2024-03-01T23:30:00"_s), "02.03.24 00:30"_s);
+        QCOMPARE(german.localDateStringFromDateTime(late), "02.03.24"_s);
+        QCOMPARE(german.localTimeStringFromDateTime(late), "00:30"_s);
+    }
 
 private:
-    void translate(const QStringList &stems);
-    QString choice(const QStringList &available, const QString &stored);
+    // Makes each stem.qm in the search path translate "Hallo" into its own stem.
+    void translate(const QStringList &stems)
+    {
+        for (const QString &stem : stems) {
+            QFile source(m_path + "/"_s + stem + ".ts"_s);
+            QVERIFY(QDir().mkpath(QFileInfo(source).path()) && source.open(QIODevice::WriteOnly));
+            source.write("<TS version=\"2.1\"><context><name>GUI</name><message><source>Hallo</source><translation>" + stem.toUtf8()
+                         + "</translation></message></context></TS>");
+            source.close();
+            QCOMPARE(QProcess::execute(QStringLiteral(LRELEASE), {"-silent"_s, source.fileName()}), 0);
+        }
+    }
+
+    // The language that a manager starts with, which is then both installed and stored.
+    QString choice(const QStringList &available, const QString &stored)
+    {
+        init();
+        translate(available);
+        m_storage.store("/language"_s, stored);
+        const LanguageManager manager(m_path, nullptr);
+        const bool isInForce = hello() == manager.currentLanguage() && m_storage.restore("/language"_s) == hello();
+        return isInForce ? hello() : "none"_s;
+    }
 
     UnifiedStorage m_storage;
     std::unique_ptr<QTemporaryDir> m_directory;
     QString m_path; // the search path
 };
-
-void TestLanguageManager::init()
-{
-    m_storage.clear();
-    m_directory = std::make_unique<QTemporaryDir>();
-    m_path = m_directory->filePath("app"_s);
-}
-
-static QString hello()
-{
-    return QCoreApplication::translate("GUI", "Hallo");
-}
-
-// Makes each stem.qm in the search path translate "Hallo" into its own stem.
-void TestLanguageManager::translate(const QStringList &stems)
-{
-    for (const QString &stem : stems) {
-        QFile source(m_path + "/"_s + stem + ".ts"_s);
-        QVERIFY(QDir().mkpath(QFileInfo(source).path()) && source.open(QIODevice::WriteOnly));
-        source.write("<TS version=\"2.1\"><context><name>GUI</name><message><source>Hallo</source><translation>" + stem.toUtf8()
-                     + "</translation></message></context></TS>");
-        source.close();
-        QCOMPARE(QProcess::execute(QStringLiteral(LRELEASE), {"-silent"_s, source.fileName()}), 0);
-    }
-}
-
-// The language that a manager starts with, which is then both installed and stored.
-QString TestLanguageManager::choice(const QStringList &available, const QString &stored)
-{
-    init();
-    translate(available);
-    m_storage.store("/language"_s, stored);
-    const LanguageManager manager(m_path, nullptr);
-    const bool isInForce = hello() == manager.currentLanguage() && m_storage.restore("/language"_s) == hello();
-    return isInForce ? hello() : "none"_s;
-}
-
-void TestLanguageManager::choices()
-{
-    QCOMPARE(choice({"de_AT"_s, "de_DE"_s}, ""_s), "de_AT"_s);
-    QCOMPARE(choice({"de_CH"_s, "de_DE"_s}, ""_s), "de_CH"_s);
-    QCOMPARE(choice({"da_DK"_s, "en_GB"_s}, ""_s), "en_GB"_s);
-    QCOMPARE(choice({"de_AT"_s, "fr_FR"_s}, "fr_FR"_s), "fr_FR"_s);
-    QTest::ignoreMessage(QtWarningMsg, "Language \"fr_FR\" is not available.");
-    QCOMPARE(choice({"de_AT"_s, "en_GB"_s}, "fr_FR"_s), "none"_s);
-}
-
-void TestLanguageManager::loading()
-{
-    translate({"de_DE"_s, "de_AT"_s, "en_GB"_s, "../qt/qt_de"_s, "../unvisited/fr_FR"_s});
-    QFile empty(m_path + "/empty.qm"_s); // holds only what tells a .qm file
-    QVERIFY(empty.open(QIODevice::WriteOnly));
-    QVERIFY(empty.write(QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd")) == 16 && empty.flush());
-    QVERIFY(QFile::rename(m_path + "/en_GB.ts"_s, m_path + "/text.qm"_s));
-    for (const QString &line :
-         {"Failed loading because language is empty from \"%1/app/empty.qm\""_s, "Failed loading language from \"%1/app/text.qm\""_s,
-          "Failed loading language from \"%1/qt/qt_en.qm\""_s, "The path \"%1/app/missing\" doesn't exist."_s}) {
-        QTest::ignoreMessage(QtWarningMsg, qPrintable(line.arg(m_directory->path())));
-    }
-    LanguageManager manager({m_path, m_path + "/missing"_s, m_path + "/../unvisited"_s}, nullptr);
-    QSignalSpy available(&manager, SIGNAL(availableLanguagesChanged(QStringList)));
-    manager.setCultures({"fr_FR"_s});
-    QCOMPARE(available.value(0).value(0).toStringList(), QStringList({"de_AT"_s, "de_DE"_s, "en_GB"_s}));
-    QCOMPARE(manager.findChildren<QTranslator *>().count(), 4); // de_AT alone has the toolkit's file
-    QCOMPARE(hello(), "de_AT"_s);
-}
-
-void TestLanguageManager::switching()
-{
-    translate({"de_DE"_s, "en_GB"_s});
-    auto manager = std::make_unique<LanguageManager>(m_path, nullptr);
-    const LanguageManager second(QStringList(), nullptr);
-    QCOMPARE(LanguageManager::instance(), manager.get());
-
-    QSignalSpy changed(manager.get(), SIGNAL(languageChanged(QString)));
-    manager->setLanguage("en_GB"_s);
-    QCOMPARE(changed.value(0).value(0).toString(), "en_GB"_s);
-    QCOMPARE(QLocale(), QLocale("en_GB"_s));
-    QCOMPARE(hello(), "en_GB"_s);
-
-    for (QTranslator *translator : manager->findChildren<QTranslator *>()) {
-        QVERIFY(!translator->load(QString())); // leaves it empty, and an empty one is not installed
-    }
-    QTest::ignoreMessage(QtWarningMsg, "Failed to install new translator.");
-    manager->setLanguage("de_DE"_s);
-    QCOMPARE(manager->currentLanguage(), "en_GB"_s);
-    QCOMPARE(changed.count(), 1);
-    manager.reset();
-    QVERIFY(!LanguageManager::instance());
-}
-
-void TestLanguageManager::formats()
-{
-    translate({"de_DE"_s});
-    const LanguageManager german(m_path, nullptr);
-    const QDate date(2024, 3, 1);
-    const QDateTime late(date, {23, 30}, Qt::UTC);
-    QCOMPARE(german.languageName("fr_FR"_s), "Français"_s);
-    QCOMPARE(german.localDateString({}) + german.localTimeString({}) + german.localDateTimeString({}), ""_s);
-    QCOMPARE(german.localDateStringFromIsoString("2024-03-01"_s), "01.03.24"_s);
-    QCOMPARE(german.localDateTimeString({date, {0, 0}, Qt::UTC}), "01.03.24"_s);
-    QCOMPARE(german.localDateTimeString({date, {0, 0, 1}, Qt::UTC}), "01.03.24 01:00"_s);
-    QCOMPARE(german.localDateTimeString({date, {7, 5}}), "01.03.24 07:05"_s);
-    QCOMPARE(german.localDateTimeStringFromUtcString("2024-03-01T23:30:00"_s), "02.03.24 00:30"_s);
-    QCOMPARE(german.localDateStringFromDateTime(late), "02.03.24"_s);
-    QCOMPARE(german.localTimeStringFromDateTime(late), "00:30"_s);
-}
 
 QTEST_GUILESS_MAIN(TestLanguageManager)
 #include "tst_languagemanager.moc"

@@ -10,13 +10,8 @@
 #include "testdata.h"
 
 #include <QComboBox>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QLabel>
 #include <QPushButton>
-#include <QTest>
 #include <QUrl>
 
 class TestMainWindow : public QObject
@@ -72,7 +67,7 @@ private slots:
         QCOMPARE(button->text(), "Simulation starten"_s);
         setLanguage("en_GB"_s);
         QCOMPARE(button->text(), "Stop simulation"_s); // whatever the state is
-        takeEmissions().clear();
+        takeEmissions();
         button->click();
         QCOMPARE(takeEmissions().last(), "start"_s); // by the state, not by the text
     }
@@ -96,7 +91,6 @@ private slots:
             QTest::ignoreMessage(QtCriticalMsg, qPrintable("Cannot parse event signature \"%1\""_s.arg(QLatin1String(twin))));
         }
         m_window->setAlarmSelectionEnabled(true);
-        QVERIFY(alarms->isVisible());
         QCOMPARE(takeEmissions(), filled);
         QTest::ignoreMessage(QtCriticalMsg, "Cannot parse event signature \"\"");
         m_window->setAlarmSelectionEnabled(true); // twice, and still connected once
@@ -114,42 +108,17 @@ private slots:
         QCOMPARE(takeEmissions(), refilled);
     }
 
-    void urls_data()
-    {
-        QTest::addColumn<QString>("url");
-        QTest::addColumn<QString>("warning");
-        QTest::addColumn<bool>("pickersShown");
-        QTest::addColumn<QString>("language");
-        const auto row = [](const char *url, bool understood, bool pickers, const char *language) {
-            QTest::newRow(*url ? url : "empty")
-                << QString::fromLatin1(url) << (understood ? QString() : "Could not interpret URL QUrl(\"%1\")"_s.arg(QLatin1String(url)))
-                << pickers << QString::fromLatin1(language);
-        };
-        row("x://host/access_level/4", true, true, "de_DE");
-        row("/access_level/3", true, false, "de_DE");
-        row("/access_level/four", true, false, "de_DE");
-        row("//access_level//4/", false, false, "de_DE"); // the first part is the host
-        row("/access_level/4/x", false, false, "de_DE");
-        row("/change_lang/en_US", true, false, "en_US");
-        row("/change_lang/%65n_US", true, false, "en_US");
-        row("/change_lang/de_DE", true, false, "de_DE");
-        row("/change_lang/xx_XX", true, false, "de_DE");
-        row("/change_lang", false, false, "de_DE");
-        row("/other/4", false, false, "de_DE");
-        row("", false, false, "de_DE");
-    }
-
     void urls()
     {
-        QFETCH(QString, url);
-        QFETCH(QString, warning);
-        QTest::ignoreMessage(QtInfoMsg, "Url received");
-        if (!warning.isEmpty()) {
-            QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
+        for (const QStringList &row : dataTable("urls.txt")) {
+            QTest::ignoreMessage(QtInfoMsg, "Url received");
+            if (row.at(1) == "no"_s) {
+                QTest::ignoreMessage(QtWarningMsg, qPrintable("Could not interpret URL QUrl(\"%1\")"_s.arg(row.at(0))));
+            }
+            m_window->onUrlReceived(QUrl(row.at(0)));
+            const QString pickers = child<QComboBox>("alarmAction")->isVisible() ? "shown"_s : "hidden"_s;
+            QCOMPARE(QStringList({row.at(0), row.at(1), pickers, m_languages->currentLanguage()}), row);
         }
-        m_window->onUrlReceived(QUrl(url));
-        QTEST(child<QComboBox>("alarmAction")->isVisible(), "pickersShown");
-        QTEST(m_languages->currentLanguage(), "language");
     }
 
     void languageChange()
@@ -172,26 +141,23 @@ private slots:
         const QByteArray bytes = file.readAll();
         QCOMPARE(bytes.count('\n'), bytes.count("\r\n"));
         QVERIFY(bytes.startsWith("[\r\n    {\r\n        \"message\": \"No alarm.\",\r\n        \"signature\": \"0x0\"\r\n    },\r\n"));
-        const QJsonArray rows = QJsonDocument::fromJson(bytes).array();
-        QCOMPARE(rows.size(), 154);
-        QCOMPARE(rows.last().toObject().value(QLatin1String("signature")).toString(), "0x4068d8e5"_s);
+        QCOMPARE(bytes.count("\"signature\""), 154);
 
         // Without a translation the catalogue's own messages show, the later row of a signature in place of the
         // earlier.
         delete m_languages;
         m_window->setAlarmSelectionEnabled(true);
         const auto *alarms = child<QComboBox>("alarmList");
-        const auto entry = [alarms](const char *signature) { return alarms->itemText(alarms->findData(QLatin1String(signature))); };
-        QCOMPARE(alarms->count(), 151);
-        QCOMPARE(entry("0x44060012"), "0x44060012: Application time interrupted"_s);
-        QCOMPARE(entry("0x95000005"), "0x95000005: Eingangssensor zu lange belegt?"_s);
-        QCOMPARE(alarms->findData("0x3102000b"_s) - alarms->findData("0x3102000C"_s), 1);
-        int elided = 0;
+        QStringList entries;
         for (int i = 0; i < alarms->count(); ++i) {
-            QVERIFY(QFontMetrics(QFont()).horizontalAdvance(alarms->itemText(i)) <= 500);
-            elided += alarms->itemText(i).endsWith(QChar(0x2026)) ? 1 : 0;
+            entries += alarms->itemText(i);
+            QVERIFY(QFontMetrics(QFont()).horizontalAdvance(entries.last()) <= 500);
         }
-        QVERIFY(elided > 0);
+        QCOMPARE(entries.size(), 151);
+        QVERIFY(entries.contains("0x44060012: Application time interrupted"_s));
+        QVERIFY(entries.contains("0x95000005: Eingangssensor zu lange belegt?"_s));
+        QVERIFY(!entries.filter(QRegularExpression("\u2026$"_s)).isEmpty());
+        QCOMPARE(alarms->findData("0x3102000b"_s) - alarms->findData("0x3102000C"_s), 1);
         m_languages = new LanguageManager(QStringLiteral(TRANSLATIONS_DIR), this);
     }
 

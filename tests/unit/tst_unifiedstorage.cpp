@@ -13,25 +13,166 @@
 #include <thread>
 #include <vector>
 
+static QByteArray streamed(const QVariant &value)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream << value;
+    return bytes;
+}
+
 class TestUnifiedStorage : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init() { m_storage.clear(); }
-    void snapshotText();
-    void values();
-    void hostileBytes_data();
-    void hostileBytes();
-    void malformedMembers();
-    void unusableFiles();
-    void keys();
-    void proxy();
-    void threads();
+    void snapshotText()
+    {
+        m_storage.store("/moment"_s, QDateTime({2020, 1, 1}, {1, 2, 3}, Qt::UTC));
+        m_storage.store("/a%1b"_s, QSize(800, 600)); // the key's own marker takes the type's name
+        m_storage.store("/a"_s, 5);
+        m_storage.store("/language"_s, "de_DE"_s);
+        const QSignalSpy saved(&m_storage, SIGNAL(snapshotSaved(QString)));
+        m_storage.saveSnapshot(m_path);
+        QTRY_COMPARE(saved.value(0).value(0).toString(), m_path);
+        QFile file(m_path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(QString::fromUtf8(file.readAll()), dataLines("snapshot.json").join(u'\n') + u'\n');
+    }
+
+    // What comes back from a snapshot is what was stored, except for numbers and lists that JSON holds in its own
+    // way.
+    void values()
+    {
+        const QDate date(2024, 2, 29);
+        const QTime time(1, 2, 3);
+        const QVariant seven = 7;
+        QVariantList stored;
+        stored << 5 << Q_INT64_C(-9) << QStringList("k"_s) << QVariantMap{{"k"_s, QVariantList{1, true}}};
+        QVariantList loaded;
+        loaded << 5.0 << -9.0 << QVariant(QVariantList{"k"_s}) << QVariantMap{{"k"_s, QVariantList{1.0, true}}};
+        QVariantList same;
+        same << QVariant() << QSize(-3, 2147483647) << QVariant::fromValue(short(-2)) << QVariant::fromValue('c')
+             << QVariant::fromValue(2.5F) << QVariant::fromValue(9L) << QVariant::fromValue(nullptr) << QChar(u'x')
+             << QByteArray("\0\xff", 2) << QBitArray(11, true) << QBitArray() << date << time << QDateTime() << QDateTime(date, time)
+             << QDateTime(date, time, Qt::OffsetFromUTC, -3600) << QDateTime(date, time, QTimeZone("Europe/Berlin"))
+             << QDateTime(date, time, QTimeZone::utc()) << QDateTime(date, time, QTimeZone("My/Zone", 5400, "a"_s, "b"_s))
+             << QUrl("https://host/?a=%20b"_s) << QUuid::createUuid() << QLocale("de_AT"_s) << QRect(1, 2, 3, 4) << QRectF(1, 2, 3, 4)
+             << QSizeF(1, 2) << QLine(1, 2, 3, 4) << QLineF(1, 2, 3, 4) << QPoint(1, 2) << QPointF(1, 2)
+             << QRegularExpression("(a{9}){9}"_s) << NetworkHelper::ipv4Pattern()
+             << QVariantHash{{"k"_s, QVariantList{QVariantMap{{"k"_s, 1}}}}} << QVariant::fromValue(QByteArrayList{"a", QByteArray()})
+             << QVariant(QMetaType::QVariant, &seven) << QJsonObject{{"k"_s, 5}} << QJsonArray{1, 2} << QColor(Qt::red)
+             << QFont("Mono"_s, 9) << QKeySequence(Qt::CTRL + Qt::Key_A);
+        stored += same;
+        loaded += same;
+        for (int i = 0; i < stored.size(); ++i) {
+            m_storage.store(QString::number(i), stored.at(i));
+        }
+        m_storage.saveSnapshot(m_path);
+        QThreadPool::globalInstance()->waitForDone();
+        m_storage.loadSnapshot(m_path);
+        for (int i = 0; i < loaded.size(); ++i) {
+            QVERIFY2(streamed(value(QString::number(i))) == streamed(loaded.at(i)), loaded.at(i).typeName());
+        }
+    }
+
+    void hostileBytes()
+    {
+        for (const QStringList &row : dataTable("snapshotvalues.txt")) {
+            QVERIFY2(!readSnapshotValue(QByteArray::fromHex(row.at(0).toLatin1())), qPrintable(row.at(1)));
+        }
+        QVERIFY(!readSnapshotValue(QByteArray::fromHex("0000002900").repeated(100000) + streamed(5))); // nested
+    }
+
+    void malformedMembers()
+    {
+        const QByteArray nested = "mapped:///a?" + QByteArray("a<").repeated(300000) + QByteArray(300000, '>');
+        for (const QByteArray &name :
+             QByteArrayList{"no scheme", "NATIVE:///a", "mapped:///a", "mapped:///a?QPoint", "mapped:///a??QSize", nested, "binary:///a"}) {
+            QTest::ignoreMessage(QtWarningMsg, ("Snapshot key \"" + name + "\" is malformed.").constData());
+            load("{'" + name + "': 'AAAAAgAAAAA*BQ==', 'native:///n': [1], 'mapped:///s?QSize?': {'width': 1e300}}");
+            QCOMPARE(value("/n"_s), QVariant(QVariantList{1.0}));
+            QCOMPARE(value("/s"_s), QVariant(QSize(0, 0)));
+        }
+    }
+
+    void unusableFiles()
+    {
+        load("{'native:///a': 1}");
+        QVERIFY(QFile::resize(m_path, 3));
+        QSignalSpy loaded(&m_storage, SIGNAL(snapshotLoaded(QString)));
+        QTest::ignoreMessage(QtCriticalMsg, "Failed reading bucket snapshot from \"/missing/file\"");
+        m_storage.loadSnapshot("/missing/file"_s);
+        QTest::ignoreMessage(QtCriticalMsg, qPrintable("Failed parsing bucket snapshot from \"%1\" 10"_s.arg(m_path)));
+        m_storage.loadSnapshot(m_path);
+        QVERIFY(loaded.isEmpty() && m_storage.contains("/a"_s));
+
+        const QSignalSpy failed(&m_storage, SIGNAL(snapshotWriteError(QString)));
+        QTest::ignoreMessage(QtCriticalMsg, "Failed creating bucket snapshot at \"/missing/file\"");
+        m_storage.saveSnapshot("/missing/file"_s);
+        QTRY_COMPARE(failed.value(0).value(0).toString(), "/missing/file"_s);
+    }
+
+    void keys()
+    {
+        load("{'native:///gone': 9}");
+        load("{'native:///quillon_pulse/x': 5, 'native:///replaced': 6}");
+        load("{'native:///xabc': 1, 'native://abc': 2, 'native://quillon_pulse/a': 3, 'native:///replaced': 4}", true);
+        m_storage.remove(QRegExp("abc"_s));
+        m_storage.fixOldKeynames();
+        for (const char *gone : {"/gone", "/xabc", "/quillon_pulse/x", "quillon_pulse/a"}) {
+            QVERIFY2(!m_storage.contains(QString::fromLatin1(gone)), gone);
+        }
+        QVERIFY2(value("abc"_s) == 2.0, "A match at the very beginning removes nothing");
+        QVERIFY(value("a"_s) == 3.0 && value("/replaced"_s) == 4.0);
+        QVERIFY(m_storage.take("/x"_s) == 5.0 && value("/x"_s) == "none"_s);
+    }
+
+    void proxy()
+    {
+        QCOMPARE(NetworkHelper::proxyFromSettings(), QNetworkProxy());
+        load("{'native:///settings/server/proxy-hostname': 'h', 'native:///settings/server/proxy-port': "
+             "8080,'native:///settings/server/proxy-username': 'u', 'native:///settings/server/proxy-password': 'p'}");
+        QCOMPARE(NetworkHelper::proxyFromSettings(), QNetworkProxy(QNetworkProxy::DefaultProxy, "h"_s, 8080, "u"_s, "p"_s));
+        m_storage.store("/settings/server/proxy-port"_s, "no number"_s);
+        QCOMPARE(NetworkHelper::proxyFromSettings().port(), quint16(0));
+    }
+
+    // Meant for ThreadSanitizer: the slots from several threads at once.
+    void threads()
+    {
+        constexpr int rounds = 200;
+        load("{'native:///file': 'f', 'native:///quillon_pulse/old': [1, {'a': 2}]}");
+        std::atomic<int> saves = 0;
+        connect(
+            &m_storage, &UnifiedStorage::snapshotSaved, &m_storage, [&] { ++saves; }, Qt::DirectConnection);
+        const auto work = [this](const QString &key) {
+            for (int i = 0; i < rounds; ++i) {
+                m_storage.store(key, QVariantList{i, key});
+                m_storage.saveSnapshot(m_path + key);
+                m_storage.loadSnapshot(m_path, i % 2 == 0);
+                m_storage.fixOldKeynames();
+                m_storage.remove(QRegExp("old"_s));
+                m_storage.take("/file"_s);
+            }
+        };
+        std::vector<std::thread> workers;
+        for (const QString &key : {"a"_s, "b"_s, "c"_s}) {
+            workers.emplace_back(work, key);
+        }
+        for (std::thread &worker : workers) {
+            worker.join();
+        }
+        QThreadPool::globalInstance()->waitForDone();
+        QCOMPARE(saves.load(), 3 * rounds);
+    }
 
 private:
-    void load(const QByteArray &snapshot, bool keepCurrent = false)
+    // Loads a snapshot in which "'" stands for a quotation mark.
+    void load(QByteArray snapshot, bool keepCurrent = false)
     {
+        snapshot.replace('\'', '"');
         QFile file(m_path);
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(snapshot) == snapshot.size() && file.flush());
         m_storage.loadSnapshot(m_path, keepCurrent);
@@ -42,192 +183,6 @@ private:
     QString m_path = m_directory.filePath("settings.json"_s);
     UnifiedStorage m_storage;
 };
-
-static QByteArray streamed(const QVariant &value)
-{
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    stream << value;
-    return bytes;
-}
-
-void TestUnifiedStorage::snapshotText()
-{
-    const QByteArray expected = R"({
-    "binary:///moment": "AAAAEAAAAAAAACWE4gA4zvgB",
-    "mapped:///aQSizeb?%2": {
-        "height": 600,
-        "width": 800
-    },
-    "native:///a": 5,
-    "native:///language": "de_DE"
-}
-)";
-    m_storage.store("/moment"_s, QDateTime({2020, 1, 1}, {1, 2, 3}, Qt::UTC));
-    m_storage.store("/a%1b"_s, QSize(800, 600)); // the key's own marker takes the type's name
-    m_storage.store("/a"_s, 5);
-    m_storage.store("/language"_s, "de_DE"_s);
-    QString saved;
-    connect(&m_storage, &UnifiedStorage::snapshotSaved, this, [&](const QString &path) { saved = path; });
-    m_storage.saveSnapshot(m_path);
-    QTRY_COMPARE(saved, m_path);
-    QFile file(m_path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), expected);
-}
-
-// What comes back from a snapshot is what was stored, except for numbers and lists that JSON holds in its own
-// way.
-void TestUnifiedStorage::values()
-{
-    const QDate date(2024, 2, 29);
-    const QTime time(1, 2, 3);
-    const QVariant seven = 7;
-    QVariantList stored;
-    stored << 5 << Q_INT64_C(-9) << QStringList("k"_s) << QVariantMap{{"k"_s, QVariantList{1, true}}};
-    QVariantList loaded;
-    loaded << 5.0 << -9.0 << QVariant(QVariantList{"k"_s}) << QVariantMap{{"k"_s, QVariantList{1.0, true}}};
-    QVariantList same;
-    same << QVariant() << QSize(-3, 2147483647) << QVariant::fromValue(short(-2)) << QVariant::fromValue('c') << QVariant::fromValue(2.5F)
-         << QVariant::fromValue(9L) << QVariant::fromValue(nullptr) << QChar(u'x') << QByteArray("\0\xff", 2) << QBitArray(11, true)
-         << QBitArray() << date << time << QDateTime() << QDateTime(date, time) << QDateTime(date, time, Qt::OffsetFromUTC, -3600)
-         << QDateTime(date, time, QTimeZone("Europe/Berlin")) << QDateTime(date, time, QTimeZone::utc())
-         << QDateTime(date, time, QTimeZone("My/Zone", 5400, "a"_s, "b"_s)) << QUrl("https://host/?a=%20b"_s) << QUuid::createUuid()
-         << QLocale("de_AT"_s) << QRect(1, 2, 3, 4) << QRectF(1, 2, 3, 4) << QSizeF(1, 2) << QLine(1, 2, 3, 4) << QLineF(1, 2, 3, 4)
-         << QPoint(1, 2) << QPointF(1, 2) << QRegularExpression("(a{9}){9}"_s) << NetworkHelper::ipv4Pattern()
-         << QVariantHash{{"k"_s, QVariantList{QVariantMap{{"k"_s, 1}}}}} << QVariant::fromValue(QByteArrayList{"a", QByteArray()})
-         << QVariant(QMetaType::QVariant, &seven) << QJsonObject{{"k"_s, 5}} << QJsonArray{1, 2} << QColor(Qt::red) << QFont("Mono"_s, 9)
-         << QKeySequence(Qt::CTRL + Qt::Key_A);
-    stored += same;
-    loaded += same;
-    for (int i = 0; i < stored.size(); ++i) {
-        m_storage.store(QString::number(i), stored.at(i));
-    }
-    m_storage.saveSnapshot(m_path);
-    QThreadPool::globalInstance()->waitForDone();
-    m_storage.loadSnapshot(m_path);
-    for (int i = 0; i < loaded.size(); ++i) {
-        QVERIFY2(streamed(value(QString::number(i))) == streamed(loaded.at(i)), loaded.at(i).typeName());
-    }
-}
-
-void TestUnifiedStorage::hostileBytes_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    const auto row = [](const char *name, const QByteArray &hex, const QByteArray &tail = QByteArray()) {
-        QTest::newRow(name) << QByteArray::fromHex(hex) + tail;
-    };
-    // Four bytes of type, one that tells null, then the value.
-    row("nothing", "");
-    row("number cut off", "00000002 00 000000");
-    row("byte left over", "00000002 00 00000005 00");
-    row("list of 4 billion", "00000009 00 ffffffff");
-    row("2 billion texts", "0000000b 00 7fffffff 00000000");
-    row("text longer than its bytes", "0000000a 00 00000010 0061");
-    row("bits whose byte count overflows", "0000000d 00 fffffff9");
-    row("easing curve with a function", "0000001d 00 2d 00" + QByteArray(48, '0') + "41414141");
-    row("picture", "00000041 00 00000001");
-    row("user type", "00000400 00 00000005 51497400 00");
-    row("unknown type", "7fffffff 00");
-    row("color model", "00000043 00 06 ffff 0000 0000 0000 0000");
-    row("nested without end", QByteArray("0000002900").repeated(100000), streamed(5));
-    row("pattern that multiplies", "0000001b 00", streamed("((a?){30}){30}"_s).mid(5) + QByteArray(3, '\0'));
-    row("date-time beyond 64 bits", "00000010 00 7fffffffffffffff 0038cef8 01");
-    row("offset beyond an int", "00000010 00 00000000002584e2 0038cef8 02 7fffffff");
-    for (const char *zone : {"../../../dev/zero", "/dev/zero", "No/Where", "OffsetFromUtc"}) {
-        row(zone, "00000010 00 00000000002584e2 0038cef8 03", streamed(QString::fromLatin1(zone)).mid(5));
-    }
-}
-
-void TestUnifiedStorage::hostileBytes()
-{
-    QFETCH(QByteArray, bytes);
-    QVERIFY(!readSnapshotValue(bytes));
-}
-
-void TestUnifiedStorage::malformedMembers()
-{
-    const QByteArray nested = "mapped:///a?" + QByteArray("a<").repeated(300000) + QByteArray(300000, '>');
-    for (const QByteArray &name : {QByteArray("no scheme"), QByteArray("NATIVE:///a"), QByteArray("mapped:///a"),
-                                   QByteArray("mapped:///a?QPoint"), QByteArray("mapped:///a??QSize"), nested, QByteArray("binary:///a")}) {
-        QTest::ignoreMessage(QtWarningMsg, ("Snapshot key \"" + name + "\" is malformed.").constData());
-        load("{\"" + name + R"(": "AAAAAgAAAAA*BQ==", "native:///n": [1], "mapped:///s?QSize?": {"width": 1e300}})");
-        QCOMPARE(value("/n"_s), QVariant(QVariantList{1.0}));
-        QCOMPARE(value("/s"_s), QVariant(QSize(0, 0)));
-    }
-}
-
-void TestUnifiedStorage::unusableFiles()
-{
-    load(R"({"native:///a": 1})");
-    QVERIFY(QFile::resize(m_path, 3));
-    QSignalSpy loaded(&m_storage, SIGNAL(snapshotLoaded(QString)));
-    QTest::ignoreMessage(QtCriticalMsg, "Failed reading bucket snapshot from \"/missing/file\"");
-    m_storage.loadSnapshot("/missing/file"_s);
-    QTest::ignoreMessage(QtCriticalMsg, qPrintable("Failed parsing bucket snapshot from \"%1\" 10"_s.arg(m_path)));
-    m_storage.loadSnapshot(m_path);
-    QVERIFY(loaded.isEmpty() && m_storage.contains("/a"_s));
-
-    QString failed;
-    connect(&m_storage, &UnifiedStorage::snapshotWriteError, this, [&](const QString &path) { failed = path; });
-    QTest::ignoreMessage(QtCriticalMsg, "Failed creating bucket snapshot at \"/missing/file\"");
-    m_storage.saveSnapshot("/missing/file"_s);
-    QTRY_COMPARE(failed, "/missing/file"_s);
-}
-
-void TestUnifiedStorage::keys()
-{
-    load(R"({"native:///gone": 9})");
-    load(R"({"native:///quillon_pulse/x": 5, "native:///replaced": 6})");
-    load(R"({"native:///xabc": 1, "native://abc": 2, "native://quillon_pulse/a": 3, "native:///replaced": 4})", true);
-    m_storage.remove(QRegExp("abc"_s));
-    m_storage.fixOldKeynames();
-    for (const char *gone : {"/gone", "/xabc", "/quillon_pulse/x", "quillon_pulse/a"}) {
-        QVERIFY2(!m_storage.contains(QString::fromLatin1(gone)), gone);
-    }
-    QVERIFY2(value("abc"_s) == 2.0, "A match at the very beginning removes nothing");
-    QVERIFY(value("a"_s) == 3.0 && value("/replaced"_s) == 4.0);
-    QVERIFY(m_storage.take("/x"_s) == 5.0 && value("/x"_s) == "none"_s);
-}
-
-void TestUnifiedStorage::proxy()
-{
-    QCOMPARE(NetworkHelper::proxyFromSettings(), QNetworkProxy());
-    load(R"({"native:///settings/server/proxy-hostname": "h", "native:///settings/server/proxy-port": 8080,
-             "native:///settings/server/proxy-username": "u", "native:///settings/server/proxy-password": "p"})");
-    QCOMPARE(NetworkHelper::proxyFromSettings(), QNetworkProxy(QNetworkProxy::DefaultProxy, "h"_s, 8080, "u"_s, "p"_s));
-    m_storage.store("/settings/server/proxy-port"_s, "no number"_s);
-    QCOMPARE(NetworkHelper::proxyFromSettings().port(), quint16(0));
-}
-
-// Meant for ThreadSanitizer: the slots from several threads at once.
-void TestUnifiedStorage::threads()
-{
-    constexpr int rounds = 200;
-    load(R"({"native:///file": "f", "native:///quillon_pulse/old": [1, {"a": 2}]})");
-    std::atomic<int> saves = 0;
-    connect(
-        &m_storage, &UnifiedStorage::snapshotSaved, &m_storage, [&] { ++saves; }, Qt::DirectConnection);
-    const auto work = [this](const QString &key) {
-        for (int i = 0; i < rounds; ++i) {
-            m_storage.store(key, QVariantList{i, key});
-            m_storage.saveSnapshot(m_path + key);
-            m_storage.loadSnapshot(m_path, i % 2 == 0);
-            m_storage.fixOldKeynames();
-            m_storage.remove(QRegExp("old"_s));
-            m_storage.take("/file"_s);
-        }
-    };
-    std::vector<std::thread> workers;
-    for (const QString &key : {"a"_s, "b"_s, "c"_s}) {
-        workers.emplace_back(work, key);
-    }
-    for (std::thread &worker : workers) {
-        worker.join();
-    }
-    QThreadPool::globalInstance()->waitForDone();
-    QCOMPARE(saves.load(), 3 * rounds);
-}
 
 QTEST_GUILESS_MAIN(TestUnifiedStorage)
 #include "tst_unifiedstorage.moc"
