@@ -5,6 +5,8 @@
 
 #include <QtEndian>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int headerSize = 7;
@@ -29,13 +31,15 @@ TcpApplicationDataUnit TcpApplicationDataUnit::fromByteArray(const QByteArray &b
 
 QByteArray TcpApplicationDataUnit::toByteArray() const
 {
-    const QByteArray pdu = m_pdu.toByteArray();
-    QByteArray bytes(headerSize, Qt::Uninitialized);
+    const QByteArray data = m_pdu.data();
+    QByteArray bytes(minimumSize + data.size(), Qt::Uninitialized);
     char *header = bytes.data();
     qToBigEndian(m_transactionId, header);
     qToBigEndian(m_protocolId, header + 2);
     // An answer of more registers than Modbus allows outgrows this field, which then wraps.
-    qToBigEndian(static_cast<quint16>(pdu.size() + 1), header + 4);
+    qToBigEndian(static_cast<quint16>(data.size() + 2), header + 4);
     header[6] = static_cast<char>(m_unitId);
-    return bytes + pdu;
+    header[7] = static_cast<char>(m_pdu.functionCode());
+    std::copy(data.begin(), data.end(), header + minimumSize);
+    return bytes;
 }
