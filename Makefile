@@ -4,11 +4,11 @@
 # A thin front for CMake: each target installs what it misses and then does the one thing that it is named after.
 
 build_packages = g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
-test_packages = $(build_packages) iproute2 python3 python3-pymodbus python3-serial-asyncio mbpoll libmodbus-dev \
+test_packages = $(build_packages) dpkg-dev iproute2 python3 python3-pymodbus python3-serial python3-serial-asyncio mbpoll libmodbus-dev \
     pkg-config tshark xdotool xvfb
 lint_packages = $(test_packages) clang-tidy clazy reuse
 
-.PHONY: run test test-windows lint package build clean
+.PHONY: run test test-windows lint package bench fuzz coverage soak build clean
 
 run:
 	@scripts/require-packages $(build_packages)
@@ -35,6 +35,27 @@ lint:
 package:
 	scripts/package-windows
 	scripts/package-linux
+
+bench:
+	@scripts/require-packages $(test_packages) libqt5serialbus5-dev libbenchmark-dev
+	scripts/bench --output docs/benchmarks.md
+
+# FOR=10000000 runs, or FOR=600s, for each target.
+fuzz: FOR ?= 60s
+fuzz:
+	@scripts/require-packages $(test_packages) clang
+	scripts/fuzz $(FOR)
+
+coverage:
+	@scripts/require-packages $(test_packages) gcovr
+	scripts/coverage
+
+# Mixed load for so many minutes.
+soak: MINUTES ?= 60
+soak:
+	@scripts/require-packages $(test_packages)
+	@$(MAKE) --no-print-directory build PRESET=release
+	scripts/soak $(MINUTES)
 
 build:
 	cmake --preset $(PRESET) --log-level=WARNING
