@@ -26,7 +26,11 @@ class Translations(unittest.TestCase):
                 self.assertTrue(all(text and (context == "GUI" or text != source) for source, text in texts))
 
     def test_alarms(self):
-        rows = json.loads((ROOT / "resources/alarmmapping").read_bytes())
+        catalogue = (ROOT / "resources/alarmmapping").read_bytes()
+        self.assertTrue(catalogue.startswith(b'[\r\n    {\r\n        "message": "No alarm.",\r\n        "signature": "0x0"\r\n    },\r\n'))
+        self.assertEqual(catalogue.count(b"\n"), catalogue.count(b"\r\n"))
+        rows = json.loads(catalogue)
+        self.assertEqual(len(rows), 154)
         wanted = {row["signature"] for row in rows if re.fullmatch("0x[0-9a-fA-F]+", row["signature"])}
         self.assertEqual(len(wanted), 151)
         self.check("alarms", "Alarm Service", wanted)
