@@ -79,6 +79,7 @@ class Program(harness.TestCase):
         modbus = ctypes.CDLL("libmodbus.so.5")
         modbus.modbus_new_tcp.restype = ctypes.c_void_p
         context = ctypes.c_void_p(modbus.modbus_new_tcp(b"127.0.0.1", 502))
+        modbus.modbus_set_response_timeout(context, 10, 0)
         self.assertEqual(modbus.modbus_connect(context), 0)
         words = (ctypes.c_uint16 * 4)()
         self.assertEqual(modbus.modbus_read_registers(context, 4040, 4, words), 4)

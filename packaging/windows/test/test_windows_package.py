@@ -35,7 +35,8 @@ def run(*command):
 
 
 def windows():
-    return subprocess.check_output("xwininfo -root -tree".split(), text=True)
+    # Fails when a window vanishes while it looks.
+    return subprocess.run("xwininfo -root -tree".split(), capture_output=True, text=True, check=False).stdout
 
 
 def colours_on_screen():
@@ -52,13 +53,12 @@ class Package(unittest.TestCase):
 
     def test_zip(self):
         simulator = self.start(PROGRAM, WINEDEBUG="+loaddll")
+        harness.wait_until(lambda: colours_on_screen() > 50, "a window")
         loaded = {path.replace("\\\\", "/").removeprefix("Z:")
                   for path in re.findall(r'Loaded L"(.*?)" at \w+: native', simulator.log())}
         expected = {str(path) for path in PROGRAM.parent.rglob("*")
                     if path.suffix in (".exe", ".dll") and path.name not in ("qoffscreen.dll", "Qt5Concurrent.dll")}
         self.assertEqual(loaded, expected)
-
-        harness.wait_until(lambda: colours_on_screen() > 50, "a window")
 
     def test_installer(self):
         commands = run(os.environ["SIMULATOR_INSTALLER"], "/S")
@@ -76,11 +76,13 @@ class Package(unittest.TestCase):
     def test_double_click(self):
         """The console that Windows opens with the program is minimised to its title bar."""
         command = [os.environ["SIMULATOR_LAUNCHER"], "start.exe", "/wait", "/unix", str(PROGRAM)]
-        with subprocess.Popen(command) as starter:
-            harness.wait_until(lambda: re.search(r'Simulator\.exe": .* 160x24\+', windows()), "a small console")
-            harness.wait_until(lambda: '"Ravel Monitor Orbis Simulator - Pelmora"' in windows(), "the window")
-            subprocess.run(["wine", "taskkill", "/im", PROGRAM.name], check=True)
-            self.assertEqual(starter.wait(harness.DEADLINE), 0)
+        starter = subprocess.Popen(command)
+        self.addCleanup(starter.wait)
+        self.addCleanup(subprocess.run, ["wine", "taskkill", "/f", "/im", PROGRAM.name])
+        harness.wait_until(lambda: re.search(r'Simulator\.exe": .* 160x24\+', windows()), "a small console")
+        harness.wait_until(lambda: '"Ravel Monitor Orbis Simulator - Pelmora"' in windows(), "the window")
+        subprocess.run(["wine", "taskkill", "/im", PROGRAM.name], check=True)
+        self.assertEqual(starter.wait(harness.DEADLINE), 0)
 
 
 if __name__ == "__main__":
