@@ -6,7 +6,7 @@
 build_packages = g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
 test_packages = $(build_packages) dpkg-dev iproute2 python3 python3-pymodbus python3-serial python3-serial-asyncio mbpoll libmodbus-dev \
     pkg-config tshark xdotool xvfb
-lint_packages = $(test_packages) clang-tidy clazy reuse
+lint_packages = $(test_packages) clang-tidy clazy cppcheck reuse
 
 .PHONY: run test test-windows lint package bench fuzz coverage soak build clean
 
@@ -15,7 +15,7 @@ run:
 	@$(MAKE) --no-print-directory build PRESET=release
 	@scripts/run build-release/RavelMonitorOrbisSimulator $(ARGUMENTS)
 
-# PRESET=asan, tsan or coverage runs the same suite instrumented.
+# PRESET=asan, tsan or coverage runs the same suite instrumented; PRESET=valgrind, which needs valgrind, under it.
 test: PRESET ?= release
 test:
 	@scripts/require-packages $(test_packages)

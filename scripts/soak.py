@@ -134,7 +134,7 @@ class Soak:
     def stop(self):
         self.simulator.stop()
         lines = re.findall(r"^(?:warning|critical) .*", self.simulator.log(), re.MULTILINE)
-        for line, count in collections.Counter(re.sub(r"\d+", "N", line)[:100] for line in lines).most_common():
+        for line, count in collections.Counter(re.sub(r"\d+|\".*", "N", line)[:60] for line in lines).most_common():
             print(f"{count:8} {line}")
 
 

@@ -81,6 +81,7 @@ class Program(harness.TestCase):
         context = ctypes.c_void_p(modbus.modbus_new_tcp(b"127.0.0.1", 502))
         modbus.modbus_set_response_timeout(context, 10, 0)
         self.assertEqual(modbus.modbus_connect(context), 0)
+        modbus.modbus_set_response_timeout(context, harness.DEADLINE, 0)
         words = (ctypes.c_uint16 * 4)()
         self.assertEqual(modbus.modbus_read_registers(context, 4040, 4, words), 4)
         self.assertEqual(list(words), [0, 0x40C0, 0, 0x4100])
