@@ -43,7 +43,7 @@ bench:
 # FOR=10000000 runs, or FOR=600s, for each target.
 fuzz: FOR ?= 60s
 fuzz:
-	@scripts/require-packages $(test_packages) clang
+	@scripts/require-packages $(test_packages) clang libclang-rt-dev
 	scripts/fuzz $(FOR)
 
 coverage:
