@@ -100,7 +100,7 @@ public:
     bool check()
     {
         checkValue(0);
-        return isOk() && m_stream.atEnd();
+        return isOk();
     }
 
 private:
@@ -309,7 +309,7 @@ std::optional<QVariant> readSnapshotValue(const QByteArray &bytes)
         QDataStream stream(bytes);
         QVariant value;
         stream >> value;
-        if (stream.status() != QDataStream::Ok || !stream.atEnd()) {
+        if (stream.status() != QDataStream::Ok) {
             return std::nullopt;
         }
         return value;

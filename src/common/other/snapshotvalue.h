@@ -16,7 +16,7 @@ class QByteArray;
 // calls function pointers that it finds in the stream, so the bytes are checked as a whole before Qt sees
 // them. Readable are the numbers and the texts, dates, geometry, patterns, lists and maps of Qt Core, JSON
 // documents, QColor, QFont and QKeySequence; an invalid QVariant counts as a value. Everything else
-// (pictures, easing curves, user types, more than 100 levels of nesting, bytes missing or left over) gives no
+// (pictures, easing curves, user types, more than 100 levels of nesting, bytes missing) gives no
 // value.
 //
 // Callable from any thread, throws nothing.

@@ -15,6 +15,8 @@
 namespace {
 
 constexpr int transferTimeoutMs = 30000;
+// Qt's server closes for good when descriptors run out, and anybody on this machine may connect.
+constexpr int maximumSenders = 16;
 constexpr int streamVersion = QDataStream::Qt_5_6; // all instances speak it, whatever Qt they were built with
 constexpr quint32 nullLength = 0xFFFFFFFF;
 
@@ -57,6 +59,11 @@ void UrlListenerPeerPrivate::newConnection()
     emit newInstance();
     while (m_server.hasPendingConnections()) {
         QLocalSocket *socket = m_server.nextPendingConnection();
+        if (m_server.findChildren<QLocalSocket *>(QString(), Qt::FindDirectChildrenOnly).size()
+            > maximumSenders) {
+            delete socket;
+            continue;
+        }
         connect(socket, SIGNAL(readyRead()), this, SLOT(readUrl()));
         connect(socket, SIGNAL(disconnected()), socket, SLOT(deleteLater()));
         // Senders that stay silent would otherwise use up the descriptors of the process.
