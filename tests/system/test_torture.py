@@ -14,6 +14,8 @@ import unittest.mock
 import harness
 
 CONFIGURATION = "Pelmora/Ravel Monitor Orbis Simulator"
+READ_PRESSURE = bytes.fromhex("0001 0000 0006 01 03 0FCA 0002")
+PRESSURE = "0400004100"
 READ_EVERYTHING = bytes.fromhex("0001 0000 0006 01 03 0000 FFFF")
 
 
@@ -35,7 +37,7 @@ def disk(options, script):
 
 class Torture(harness.TestCase):
     def check_served(self, master):
-        self.assertEqual(harness.ask(master, 3, "0FCA0002").hex(), "0400004100")
+        self.assertEqual(harness.ask(master, 3, "0FCA0002").hex(), PRESSURE)
 
     def test_denied(self):
         no_cache = "Could not write uuid to cache:"
@@ -71,8 +73,10 @@ class Torture(harness.TestCase):
         masters = [self.connect() for _ in range(64)]
         simulator.wait_for_log("Further Modbus masters have to wait, connected are")
         for master in masters:
+            master.sendall(READ_PRESSURE)  # also those that have to wait
+        for master in masters:
+            self.assertEqual(master.recv(1024)[8:].hex(), PRESSURE)
             master.close()
-        self.check_served(self.connect())
 
     def test_load(self):
         simulator = self.start()

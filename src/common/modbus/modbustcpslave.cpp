@@ -96,8 +96,6 @@ void ModbusTcpSlavePrivate::init(ModbusTcpSlave *slave)
     m_server = new QTcpServer(this);
     m_watch = new SocketWatch(this);
     connect(m_server, SIGNAL(newConnection()), this, SLOT(processNewClientConnection()));
-    // Connections that are not taken at once stay with the system, where they hold no descriptor.
-    m_server->setMaxPendingConnections(1);
     m_maximumClients = std::max(1, SystemHelper::maximumDescriptors() - reservedDescriptors);
 }
 
@@ -108,19 +106,12 @@ void ModbusTcpSlavePrivate::processNewClientConnection()
         qCCritical(lcModbus) << "Called from invalid or non-QTcpServer object.";
         return;
     }
-    adoptPendingClients();
-}
-
-// Qt's server spins when descriptors run out, and the single-instance channel closes for good. So masters
-// beyond the limit have to wait until others leave.
-void ModbusTcpSlavePrivate::adoptPendingClients()
-{
     while (m_server->hasPendingConnections()) {
-        if (m_clients.size() >= m_maximumClients) {
-            qCWarning(lcModbus) << "Further Modbus masters have to wait, connected are" << m_clients.size();
-            return;
-        }
         adopt(m_server->nextPendingConnection());
+    }
+    if (m_clients.size() >= m_maximumClients) {
+        qCWarning(lcModbus) << "Further Modbus masters have to wait, connected are" << m_clients.size();
+        m_server->setMaxPendingConnections(0);
     }
 }
 
@@ -140,9 +131,22 @@ void ModbusTcpSlavePrivate::adopt(QTcpSocket *client)
     connect(client, &QTcpSocket::disconnected, m_server, [this, client] {
         m_clients.removeOne(client);
         client->deleteLater();
-        adoptPendingClients();
+        acceptFurtherClients();
     });
     qCDebug(lcModbus) << "Modbus master" << client->peerAddress().toString() << "connected.";
+}
+
+// Qt's server spins when descriptors run out, and the single-instance channel closes for good. So masters
+// beyond the limit have to wait until others leave: with the system, where they hold no descriptor, and not
+// as pending connections of the server, whose sockets would read requests that nobody takes up.
+void ModbusTcpSlavePrivate::acceptFurtherClients()
+{
+    if (m_server->maxPendingConnections() == 0) {
+        m_server->setMaxPendingConnections(1);
+        if (m_server->isListening()) {
+            m_server->resumeAccepting();
+        }
+    }
 }
 
 void ModbusTcpSlavePrivate::processRequest()

@@ -55,7 +55,7 @@ private slots:
     void processRequest(); // for sockets that somebody else accepted
 
 private:
-    void adoptPendingClients();
+    void acceptFurtherClients();
     void adopt(QTcpSocket *client);
     void serve(QTcpSocket *socket);
 };
