@@ -37,7 +37,7 @@ package:
 	scripts/package-linux
 
 bench:
-	@scripts/require-packages $(test_packages) libqt5serialbus5-dev libbenchmark-dev
+	@scripts/require-packages $(test_packages) libqt5serialbus5-dev libbenchmark-dev nodejs
 	scripts/bench --output docs/benchmarks.md
 
 # FOR=10000000 runs, or FOR=600s, for each target.

@@ -68,7 +68,7 @@ class Bench:
         self.plugins = programs / "plugins"
         # Debian's pymodbus belongs to Debian's interpreter.
         python = "/usr/bin/python3" if Path("/usr/bin/python3").exists() else sys.executable
-        pymodbus = Path(__file__).with_name("peers") / "pymodbus_server.py"
+        peers = Path(__file__).with_name("peers")
         self.simulator = Server("simulator", (build / "RavelMonitorOrbisSimulator",), DEVICE_ANSWERS)
         fixed_answer = (PORT, "{answer}")
         self.floor = Server("floor", (programs / "peer_floor", *fixed_answer), DEVICE_ANSWERS)
@@ -79,7 +79,8 @@ class Bench:
             self.bare_qt,
             Server("libmodbus", (programs / "peer_libmodbus", PORT), STANDARD_ANSWERS),
             Server("Qt Serial Bus", (programs / "peer_qtserialbus", PORT), STANDARD_ANSWERS),
-            Server("pymodbus", (python, pymodbus, PORT), STANDARD_ANSWERS),
+            Server("Node", ("node", peers / "node_server.js", PORT), STANDARD_ANSWERS),
+            Server("pymodbus", (python, peers / "pymodbus_server.py", PORT), STANDARD_ANSWERS),
         )
         self.environment = dict(
             os.environ,
