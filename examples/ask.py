@@ -11,5 +11,5 @@ with socket.create_connection((sys.argv[1], 502), timeout=2) as device, device.m
     try:
         header = answer.read(6)
         print((header + answer.read(int.from_bytes(header[4:], "big"))).hex(" "))
-    except TimeoutError:
+    except socket.timeout:
         sys.exit("no answer")

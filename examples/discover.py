@@ -26,7 +26,10 @@ def udp_socket(address, port):
 
 def ask(request):
     """Yields the texts of the answers, which everybody broadcasts: also such as others have asked for."""
-    requests.sendto(request.encode(), ("255.255.255.255", REQUEST_PORT))
+    try:
+        requests.sendto(request.encode(), ("255.255.255.255", REQUEST_PORT))
+    except OSError as error:
+        sys.exit(f"{error.strerror}: name this computer's address on the network card to ask through")
     end = time.monotonic() + SECONDS
     while select.select([responses], [], [], max(0, end - time.monotonic()))[0]:
         yield responses.recv(65536).decode(errors="replace")
@@ -53,7 +56,10 @@ def properties(hardware_address):
 
 
 with udp_socket(sys.argv[1] if len(sys.argv) > 1 else "", 0) as requests, udp_socket("", RESPONSE_PORT) as responses:
-    for hardware_address, description in sorted(devices().items()):
+    found = devices()
+    if not found:
+        sys.exit("no device answered")
+    for hardware_address, description in sorted(found.items()):
         print(hardware_address, " | ".join(description), sep="  ")
         for line in properties(hardware_address):
             print("   ", line)

@@ -37,7 +37,7 @@ class Player:
 
     def read(self, name):
         register = self.registers[name]
-        words = self.client.read_holding_registers(register["number"], 2).registers
+        words = self.client.read_holding_registers(register["number"], count=2).registers
         return struct.unpack(FORMATS[register["type"]], struct.pack("<HH", *words))[0]
 
     def play(self, step):
