@@ -12,7 +12,7 @@ lint_packages = $(test_packages) clang-tidy clazy cppcheck reuse
 
 run:
 	@scripts/require-packages $(build_packages)
-	@$(MAKE) --no-print-directory build PRESET=release
+	@$(MAKE) --no-print-directory build PRESET=release TARGET=RavelMonitorOrbisSimulator
 	@scripts/run build-release/RavelMonitorOrbisSimulator $(ARGUMENTS)
 
 # PRESET=asan, tsan or coverage runs the same suite instrumented; PRESET=valgrind, which needs valgrind, under it.
@@ -57,9 +57,10 @@ soak:
 	@$(MAKE) --no-print-directory build PRESET=release
 	scripts/soak $(MINUTES)
 
+build: TARGET ?= all
 build:
 	cmake --preset $(PRESET) --log-level=WARNING
-	cmake --build --preset $(PRESET)
+	cmake --build --preset $(PRESET) --target $(TARGET)
 
 clean:
 	rm -rf build-*
