@@ -7,6 +7,7 @@
 
 #include "testdata.h"
 
+#include <QAbstractAnimation>
 #include <QSignalSpy>
 #include <QTcpSocket>
 
@@ -46,6 +47,7 @@ public:
 //   > bytes       the master sends them, and the device reads them at once
 //   < bytes       are what comes back next
 //   ! text        a warning that the next step causes
+//   swing number  takes the device's simulation to these milliseconds of a swing, and halts it there
 //   slot [number] calls the device's slot
 inline void play(const QStringList &steps, ModbusClient &client, QObject *device)
 {
@@ -62,6 +64,10 @@ inline void play(const QStringList &steps, ModbusClient &client, QObject *device
             QCOMPARE(client.read(bytes.size()).toHex(' '), bytes.toHex(' '));
         } else if (verb == "!"_s) {
             QTest::ignoreMessage(QtWarningMsg, qPrintable(rest));
+        } else if (verb == "swing"_s) {
+            auto *swing = device->findChild<QAbstractAnimation *>();
+            swing->setCurrentTime(rest.toInt());
+            swing->pause();
         } else {
             const auto number = static_cast<int>(rest.toUInt(nullptr, 0));
             QVERIFY(QMetaObject::invokeMethod(device, qPrintable(verb), rest.isEmpty() ? QGenericArgument() : Q_ARG(int, number)));
