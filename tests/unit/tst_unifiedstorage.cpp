@@ -27,54 +27,27 @@ class TestUnifiedStorage : public QObject
 
 private slots:
     void init() { m_storage.clear(); }
-    void snapshotText()
+
+    // What is read from a snapshot is written as it was. Its keys say what they hold.
+    void snapshot()
     {
-        m_storage.store("/moment"_s, QDateTime({2020, 1, 1}, {1, 2, 3}, Qt::UTC));
+        QTest::ignoreMessage(QtWarningMsg, "Snapshot key \"mapped:///aQSizeb?%2\" is malformed.");
+        m_storage.loadSnapshot(QStringLiteral(TEST_DATA "/snapshot.json"));
+        QCOMPARE(value("/size"_s), QVariant(QSize(-3, 2147483647)));
+        QCOMPARE(value("/color"_s), QVariant(QColor(Qt::red)));
+        QCOMPARE(value("/moment, UTC"_s), QVariant(QDateTime({2020, 1, 1}, {1, 2, 3}, Qt::UTC)));
+        QCOMPARE(streamed(value("/map"_s)), streamed(QVariantMap{{"k"_s, QVariantList{1.0, true}}}));
+
         m_storage.store("/a%1b"_s, QSize(800, 600)); // the key's own marker takes the type's name
-        m_storage.store("/a"_s, 5);
-        m_storage.store("/language"_s, "de_DE"_s);
+        m_storage.store("/integer"_s, 5);
+        m_storage.store("/long long"_s, Q_INT64_C(-9));
+        m_storage.store("/texts"_s, QStringList("k"_s));
         const QSignalSpy saved(&m_storage, SIGNAL(snapshotSaved(QString)));
         m_storage.saveSnapshot(m_path);
         QTRY_COMPARE(saved.value(0).value(0).toString(), m_path);
         QFile file(m_path);
         QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(QString::fromUtf8(file.readAll()), dataLines("snapshot.json").join(u'\n') + u'\n');
-    }
-
-    // What comes back from a snapshot is what was stored, except for numbers and lists that JSON holds in its own
-    // way.
-    void values()
-    {
-        const QDate date(2024, 2, 29);
-        const QTime time(1, 2, 3);
-        const QVariant seven = 7;
-        QVariantList stored;
-        stored << 5 << Q_INT64_C(-9) << QStringList("k"_s) << QVariantMap{{"k"_s, QVariantList{1, true}}};
-        QVariantList loaded;
-        loaded << 5.0 << -9.0 << QVariant(QVariantList{"k"_s}) << QVariantMap{{"k"_s, QVariantList{1.0, true}}};
-        QVariantList same;
-        same << QVariant() << QSize(-3, 2147483647) << QVariant::fromValue(short(-2)) << QVariant::fromValue('c')
-             << QVariant::fromValue(2.5F) << QVariant::fromValue(9L) << QVariant::fromValue(nullptr) << QChar(u'x')
-             << QByteArray("\0\xff", 2) << QBitArray(11, true) << QBitArray() << date << time << QDateTime() << QDateTime(date, time)
-             << QDateTime(date, time, Qt::OffsetFromUTC, -3600) << QDateTime(date, time, QTimeZone("Europe/Berlin"))
-             << QDateTime(date, time, QTimeZone::utc()) << QDateTime(date, time, QTimeZone("My/Zone", 5400, "a"_s, "b"_s))
-             << QUrl("https://host/?a=%20b"_s) << QUuid::createUuid() << QLocale("de_AT"_s) << QRect(1, 2, 3, 4) << QRectF(1, 2, 3, 4)
-             << QSizeF(1, 2) << QLine(1, 2, 3, 4) << QLineF(1, 2, 3, 4) << QPoint(1, 2) << QPointF(1, 2)
-             << QRegularExpression("(a{9}){9}"_s) << NetworkHelper::ipv4Pattern()
-             << QVariantHash{{"k"_s, QVariantList{QVariantMap{{"k"_s, 1}}}}} << QVariant::fromValue(QByteArrayList{"a", QByteArray()})
-             << QVariant(QMetaType::QVariant, &seven) << QJsonObject{{"k"_s, 5}} << QJsonArray{1, 2} << QColor(Qt::red)
-             << QFont("Mono"_s, 9) << QKeySequence(Qt::CTRL + Qt::Key_A);
-        stored += same;
-        loaded += same;
-        for (int i = 0; i < stored.size(); ++i) {
-            m_storage.store(QString::number(i), stored.at(i));
-        }
-        m_storage.saveSnapshot(m_path);
-        QThreadPool::globalInstance()->waitForDone();
-        m_storage.loadSnapshot(m_path);
-        for (int i = 0; i < loaded.size(); ++i) {
-            QVERIFY2(streamed(value(QString::number(i))) == streamed(loaded.at(i)), loaded.at(i).typeName());
-        }
+        QCOMPARE(QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts), dataLines("snapshot.json"));
     }
 
     void hostileBytes()
