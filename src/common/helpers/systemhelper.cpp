@@ -45,7 +45,9 @@ void writeNewIdentifier(QFile &cache)
     if (!cache.open(QIODevice::WriteOnly) || cache.write(newIdentifier().toUtf8()) == -1 || !cache.flush()) {
         qCWarning(lcModbus) << "Could not write uuid to cache:" << cache.errorString();
         if (cache.isOpen()) {
-            cache.remove();
+            cache.close();
+            // On its own remove() the file would once more try to flush, and give up.
+            QFile::remove(cache.fileName());
         }
     }
     cache.close();
