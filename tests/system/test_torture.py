@@ -10,6 +10,7 @@ import socket
 import time
 import unittest
 import unittest.mock
+import uuid
 
 import harness
 
@@ -41,12 +42,13 @@ class Torture(harness.TestCase):
 
     def test_denied(self):
         no_cache = "Could not write uuid to cache:"
+        unreadable = 'Could not read cache file: "die zu öffnende Datei ist ein Verzeichnis" create an uncached identifier.'
         for cause, line, served in [
                 (taken(socket.SOCK_STREAM, 502), "Failed listening on port 502", False),
                 (taken(socket.SOCK_DGRAM, 45123, 45124), 'Failed binding response socket "0.0.0.0" to port 45124', True),
                 (disk("", "mount -o remount,ro ."), no_cache, True),
                 (disk("-o size=4k", "head -c 4096 /dev/zero >filler"), no_cache, True),
-                (disk("", f'mkdir "{CONFIGURATION}/sn_cache"'), "Could not read cache file:", True)]:
+                (disk("", f'mkdir "{CONFIGURATION}/sn_cache"'), unreadable, True)]:
             with self.subTest(line):
                 with cause:
                     self.check_one_run(served).wait_for_log(line)
@@ -56,7 +58,7 @@ class Torture(harness.TestCase):
         simulator = self.start()
         simulator.wait_for_log("Added port for device")
         if served:
-            self.check_served(self.connect())
+            self.assertEqual(len(harness.ask(self.connect(), 103, "1627")), len(str(uuid.uuid4())))
         simulator.stop()
         return simulator
 
