@@ -44,9 +44,7 @@ def value(master, position=PRESSURE):
 class Soak:
     def __init__(self):
         harness.plug_in_card()
-        display = subprocess.Popen(["Xvfb", "-displayfd", "1"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
-        atexit.register(display.terminate)
-        os.environ["DISPLAY"] = ":" + display.stdout.readline().strip()
+        atexit.register(harness.open_display().terminate)
         self.simulator = harness.start(["--factorytech", "--sn", "ABC123"], {
             "QT_QPA_PLATFORM": "xcb", "QT_MESSAGE_PATTERN": "%{type} %{category}: %{message}"})
         atexit.register(self.simulator.process.kill)

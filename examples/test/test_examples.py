@@ -16,16 +16,15 @@ ROOT = pathlib.Path(__file__).parents[2]
 BLOCK = re.compile(r"^```console\n(.*?)^```", re.MULTILINE | re.DOTALL)
 COMMAND = re.compile(r"^\$ (.*)\n((?:(?!\$ ).*\n)*)", re.MULTILINE)
 TRACE = {"QT_LOGGING_RULES": "orvet.debug=true", "QT_MESSAGE_PATTERN": "%{time} %{category}: %{message}"}
-VISIBLE = {"QT_QPA_PLATFORM": "xcb", "ASAN_OPTIONS": "detect_leaks=0"}  # the platform plugin has leaks of its own
 
 
 class Documentation(unittest.TestCase):
     def setUp(self):
         harness.plug_in_card()
-        server = subprocess.Popen(["Xvfb", "-displayfd", "1"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        server = harness.open_display()
         self.addCleanup(server.communicate)
         self.addCleanup(server.terminate)
-        os.environ.update(DISPLAY=":" + server.stdout.readline().strip(), PATH="/usr/bin:/bin")
+        os.environ["PATH"] = "/usr/bin:/bin"
 
     def test_commands_on_each_page(self):
         for page in [ROOT / "README.md", ROOT / "examples/README.md", *ROOT.glob("docs/*.md")]:
@@ -36,7 +35,7 @@ class Documentation(unittest.TestCase):
 
     def run_beside_simulator(self, commands, directory):
         if "operate.sh" in str(commands):
-            simulator = harness.start(["--sn", "ABC123", "--factorytech"], {**TRACE, **VISIBLE})
+            simulator = harness.start(["--sn", "ABC123", "--factorytech"], {**TRACE, **harness.VISIBLE})
         else:
             simulator = harness.start(["--sn", "ABC123"], TRACE)
         try:

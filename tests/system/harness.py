@@ -19,6 +19,7 @@ import unittest
 
 NEW_NETWORK = 0x40000000  # CLONE_NEWNET
 DEADLINE = 30  # seconds; generous, for loaded machines and sanitizer builds
+VISIBLE = {"QT_QPA_PLATFORM": "xcb", "ASAN_OPTIONS": "detect_leaks=0"}  # the platform plugin has leaks of its own
 
 
 def wait_until(condition, what):
@@ -63,6 +64,13 @@ class Host:
 
     def __exit__(self, *_):
         self._enter(self._home, NEW_NETWORK)
+
+
+def open_display():
+    """The server of a screen on which windows appear from now on; to be terminated."""
+    server = subprocess.Popen(["Xvfb", "-displayfd", "1"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+    os.environ["DISPLAY"] = ":" + server.stdout.readline().strip()
+    return server
 
 
 def udp_socket(address, port):
