@@ -140,15 +140,6 @@ private slots:
         QTRY_COMPARE(m_slave->findChildren<QTcpSocket *>().size(), 1);
     }
 
-    void occupiedPort()
-    {
-        m_slave->stop();
-        QTest::ignoreMessage(QtCriticalMsg, QRegularExpression("^Failed listening on port \\d+$"_s));
-        QTcpServer occupant;
-        QVERIFY(occupant.listen(QHostAddress::Any));
-        m_slave->start(occupant.serverPort());
-    }
-
     void addressTexts()
     {
         for (const QStringList &row : dataTable("addresses.txt")) {
