@@ -103,7 +103,7 @@ class Torture(harness.TestCase):
         for _ in range(20):
             stuck.sendall(READ_EVERYTHING)
         close_window(int(subprocess.check_output("xdotool search --sync --onlyvisible --name ^Ravel".split())))
-        self.assertEqual(simulator.process.wait(10), 0)
+        self.assertEqual(simulator.process.wait(harness.DEADLINE), 0)
         self.assertEqual(idle.recv(1), b"")
 
     def test_load(self):
