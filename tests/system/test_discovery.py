@@ -3,6 +3,8 @@
 
 """Another host, connected to this one by a bridge, discovers the running program."""
 
+import socket
+import struct
 import unittest
 
 import harness
@@ -12,6 +14,11 @@ SILENT = (b"", b"E", b"P 02:00:00:00:00:01 REF=x", b"A 02:00:00:00:00:01 REF=x",
           b"G" * 5000)
 PROPERTIES = (b"\tdhcp=off\ndevicetype=21123642\nREF=7316-20\nREF_Name=Duo Orbis\nPCB_SN=ABC123\n"
               b"addr1=127.0.0.1\nmask1=255.0.0.0\n")
+
+
+def wrong_checksums():
+    with open("/proc/net/snmp", encoding="utf-8") as counters:
+        return int(counters.read().split("Udp: ")[2].split()[6])
 
 
 class OtherHost(harness.Host):
@@ -44,10 +51,14 @@ class Discovery(unittest.TestCase):
             simulator = harness.start(["--sn", "ABC123"])
             simulator.wait_for_log(f'Added port for device "02:00:00:00:00:0{cards}"')
             with host.bind(0) as requester, host.bind(45124) as responses:
-                self.check_answers(requester, responses, cards)
+                self.check_answers(host, requester, responses, cards)
             simulator.stop()
 
-    def check_answers(self, requester, responses, cards):
+    def check_answers(self, host, requester, responses, cards):
+        with host, socket.socket(socket.AF_INET, socket.SOCK_RAW, socket.IPPROTO_UDP) as sender:
+            sender.sendto(struct.pack(">4H", 9, 45123, 208, 1) + b"D" * 200, ("192.168.7.1", 0))  # damaged on its way
+        harness.wait_until(lambda: wrong_checksums() == cards, "the datagram with the wrong checksum")
+
         # The loopback interface stands for all cards: it hears the request on each and answers with no address.
         expected = [b"d 00:00:00:00:00:00 0.0.0.0" + TITLE] * cards
         expected += [b"d 02:00:00:00:00:0%d 192.168.7.%d" % (card, card) + TITLE for card in range(1, cards + 1)]

@@ -18,10 +18,26 @@ constexpr int interfaceCheckIntervalMs = 30000;
 // A flood must not hold up the calls queued to this thread, for which the window may be waiting. What is left
 // in the socket announces itself again.
 constexpr int datagramsPerTurn = 4;
+constexpr qint64 maximumDatagramSize = 65535;
 
 bool isSameHardware(const QString &address, const QString &other)
 {
     return address.compare(other, Qt::CaseInsensitive) == 0;
+}
+
+// Reads without asking first whether there is anything to read: a datagram that was damaged on its way is
+// announced, but gone when it is looked for, and Qt announces no further one before it was asked to read.
+QByteArrayList takeDatagrams(QUdpSocket *socket)
+{
+    QByteArrayList datagrams;
+    while (socket && datagrams.size() < datagramsPerTurn) {
+        const QNetworkDatagram datagram = socket->receiveDatagram(maximumDatagramSize);
+        if (!datagram.isValid()) {
+            break;
+        }
+        datagrams.append(datagram.data());
+    }
+    return datagrams;
 }
 
 // Returns the number of bytes sent, -1 on failure. A socket whose bind failed stays silent: on sending, Qt
@@ -177,9 +193,8 @@ void OrvetPeerWorker::setNetworkAddressState(const QString &address, bool enable
 
 void OrvetPeerWorker::processResponse()
 {
-    auto *socket = qobject_cast<QUdpSocket *>(sender());
-    for (int count = 0; socket && count < datagramsPerTurn && socket->hasPendingDatagrams(); ++count) {
-        const QByteArray datagram = socket->receiveDatagram().data();
+    const QByteArrayList datagrams = takeDatagrams(qobject_cast<QUdpSocket *>(sender()));
+    for (const QByteArray &datagram : datagrams) {
         if (datagram.startsWith('d')) {
             if (const auto information = OrvetPackets::parseDiscoverResponse(datagram)) {
                 emit deviceDiscovered(*information);
@@ -193,8 +208,8 @@ void OrvetPeerWorker::processResponse()
 void OrvetPeerWorker::processRequest()
 {
     auto *socket = qobject_cast<QUdpSocket *>(sender());
-    for (int count = 0; socket && count < datagramsPerTurn && socket->hasPendingDatagrams(); ++count) {
-        const QByteArray datagram = socket->receiveDatagram().data();
+    const QByteArrayList datagrams = takeDatagrams(socket);
+    for (const QByteArray &datagram : datagrams) {
         if (datagram.isEmpty() || !m_hostEnabled) {
             continue;
         }
