@@ -67,20 +67,27 @@ void prepareConsole()
 }
 #else
 // Descriptor on which requests to terminate can be read from now on; they no longer end the process by
-// themselves. To be called before any thread is started, and some platform plugins start one with the
-// application object: threads inherit that these signals are blocked.
+// themselves. Where there is no descriptor to be had (-1) they still do. To be called before any thread is
+// started, and some platform plugins start one with the application object: threads inherit that these
+// signals are blocked.
 int catchTermination()
 {
     sigset_t requests;
     sigemptyset(&requests);
     sigaddset(&requests, SIGTERM);
     sigaddset(&requests, SIGINT);
-    pthread_sigmask(SIG_BLOCK, &requests, nullptr);
-    return signalfd(-1, &requests, SFD_CLOEXEC);
+    const int descriptor = signalfd(-1, &requests, SFD_CLOEXEC);
+    if (descriptor >= 0) {
+        pthread_sigmask(SIG_BLOCK, &requests, nullptr);
+    }
+    return descriptor;
 }
 
 void quitOnTermination(int descriptor)
 {
+    if (descriptor < 0) {
+        return;
+    }
     auto *notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, qApp);
     QObject::connect(notifier, &QSocketNotifier::activated, qApp, &QCoreApplication::quit);
 }
