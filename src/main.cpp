@@ -185,6 +185,7 @@ int main(int argc, char *argv[])
     prepareConsole();
 #else
     const int termination = catchTermination();
+    (void)std::signal(SIGPIPE, SIG_IGN); // whoever reads the log may leave
     SystemHelper::raiseDescriptorLimit();
 #endif
     QCoreApplication::setOrganizationName(QStringLiteral("Pelmora"));

@@ -66,6 +66,15 @@ class Program(harness.TestCase):
         send_url(b"sim://x/nowhere")
         first.wait_for_log('Could not interpret URL QUrl("sim://x/nowhere")')
 
+    def test_reader_of_the_log_leaves(self):
+        with subprocess.Popen(harness.command(), stdout=subprocess.PIPE, stderr=subprocess.STDOUT) as program:
+            self.addCleanup(program.terminate)
+            master = self.connect()
+            program.stdout.close()
+            self.assertEqual(harness.ask(master, 3, "00000001").hex(), "020000")  # register 0 is worth a warning
+            program.terminate()
+        self.assertEqual(program.returncode, 0)
+
     def test_inaccessible_configuration(self):
         program = subprocess.run(harness.command(), env={**os.environ, "PROGRAMDATA": "/proc/none"}, check=False,
                                  stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
