@@ -6,6 +6,7 @@
 #include "common/helpers/loggingcategories.h"
 #include "common/other/unifiedstorage.h"
 
+#include <QFile>
 #include <QNetworkInterface>
 #include <QTcpServer>
 #include <QTextStream>
@@ -51,25 +52,11 @@ QString proxySetting(const char *name)
 }
 
 #ifdef Q_OS_LINUX
-QString interfaceWithAddress(const QHostAddress &address)
+// Gives the unbound socket a descriptor that sends and receives on the interface with this name only. Returns
+// false, with the socket untouched, where there is no such interface or the system refuses.
+bool tieToInterface(QUdpSocket *socket, const QString &interfaceName)
 {
-    const QList<QNetworkInterface> interfaces = QNetworkInterface::allInterfaces();
-    for (const QNetworkInterface &candidate : interfaces) {
-        const QList<QNetworkAddressEntry> entries = candidate.addressEntries();
-        for (const QNetworkAddressEntry &entry : entries) {
-            if (entry.ip() == address) {
-                return candidate.name();
-            }
-        }
-    }
-    return {};
-}
-
-// Gives the unbound socket a descriptor that sends and receives on the interface with this address only.
-// Returns false, with the socket untouched, where there is no such interface or the system refuses.
-bool tieToInterface(QUdpSocket *socket, const QHostAddress &address)
-{
-    const QByteArray name = interfaceWithAddress(address).toLatin1();
+    const QByteArray name = QFile::encodeName(interfaceName);
     if (name.isEmpty()) {
         return false;
     }
@@ -184,19 +171,19 @@ QVector<NetworkHelper::InterfaceAddress> NetworkHelper::interfaceAddresses()
         const QList<QNetworkAddressEntry> entries = candidate.addressEntries();
         for (const QNetworkAddressEntry &entry : entries) {
             if (entry.ip().protocol() == QAbstractSocket::IPv4Protocol) {
-                (isLoopback ? loopbacks : cards).append({entry, hardwareAddress});
+                (isLoopback ? loopbacks : cards).append({entry, hardwareAddress, candidate.name()});
             }
         }
     }
     return loopbacks + cards;
 }
 
-bool NetworkHelper::bindToInterface(QUdpSocket *socket, const QHostAddress &address, quint16 port)
+bool NetworkHelper::bindToInterface(QUdpSocket *socket, const InterfaceAddress &address, quint16 port)
 {
-    QHostAddress local = address;
+    QHostAddress local = address.entry.ip();
 #ifdef Q_OS_LINUX
     // A socket bound to the address itself would hear no limited broadcast here. Windows delivers them.
-    if (tieToInterface(socket, address)) {
+    if (tieToInterface(socket, address.interfaceName)) {
         local = QHostAddress(QHostAddress::AnyIPv4);
     }
 #endif

@@ -23,11 +23,12 @@ class QUdpSocket;
 class NetworkHelper
 {
 public:
-    // An IPv4 address of this machine and the hardware address of the interface that holds it.
+    // An IPv4 address of this machine and the interface that holds it.
     struct InterfaceAddress
     {
         QNetworkAddressEntry entry;
         QString hardwareAddress;
+        QString interfaceName; // the system's own
     };
 
     NetworkHelper() = delete;
@@ -64,9 +65,9 @@ public:
     static QVector<InterfaceAddress> interfaceAddresses();
 
     // Binds the socket, which shares the port with other programs, so that it hears the broadcasts that
-    // arrive on the interface with this address, limited ones included, and sends its own there. With the any
-    // address that is every interface, and the default route for sending.
-    static bool bindToInterface(QUdpSocket *socket, const QHostAddress &address, quint16 port);
+    // arrive on this interface, limited ones included, and sends its own there. With the any address and no
+    // name that is every interface, and the default route for sending.
+    static bool bindToInterface(QUdpSocket *socket, const InterfaceAddress &address, quint16 port);
 
     // Whether the interface that such a socket belongs to was taken out of the machine. The socket stays deaf
     // then, even when the interface comes back with the same address. Always false on Windows, where a socket

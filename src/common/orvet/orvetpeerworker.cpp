@@ -94,7 +94,7 @@ void OrvetPeerWorker::start(quint16 requestPort, quint16 responsePort)
     }
     // The first interface, which is the loopback, stays on the any address for good: the check finds its
     // hardware address taken. Its answers carry the IP address 0.0.0.0, which requesters ignore.
-    startOnHostAddress(anyAddress, interfaces.first().hardwareAddress, requestPort, responsePort);
+    startOnHostAddress({anyAddress, interfaces.first().hardwareAddress, {}}, requestPort, responsePort);
     if (m_hostEnabled) {
         setValue(QStringLiteral("addr1"), QStringLiteral("127.0.0.1"));
         setValue(QStringLiteral("mask1"), QStringLiteral("255.0.0.0"));
@@ -231,8 +231,8 @@ void OrvetPeerWorker::checkForInterfaces()
         return !adapter.requestSocket.isNull() && NetworkHelper::hasLostInterface(*adapter.requestSocket);
     });
     const InterfaceAddresses interfaces = usableInterfaces();
-    for (const auto &[entry, hardwareAddress] : interfaces) {
-        startOnHostAddress(entry, hardwareAddress, m_requestPort, m_responsePort);
+    for (const auto &address : interfaces) {
+        startOnHostAddress(address, m_requestPort, m_responsePort);
     }
     removeAdapters([&interfaces](const Adapter &adapter) {
         return std::none_of(interfaces.cbegin(), interfaces.cend(), [&adapter](const auto &present) {
@@ -268,9 +268,10 @@ OrvetPeerWorker::InterfaceAddresses OrvetPeerWorker::usableInterfaces() const
 }
 
 // Returns true when a socket could not be bound; the adapter is kept all the same, with that socket closed.
-bool OrvetPeerWorker::startOnHostAddress(const QNetworkAddressEntry &entry, const QString &hardwareAddress,
-                                         quint16 requestPort, quint16 responsePort)
+bool OrvetPeerWorker::startOnHostAddress(const NetworkHelper::InterfaceAddress &address, quint16 requestPort,
+                                         quint16 responsePort)
 {
+    const QString hardwareAddress = address.hardwareAddress;
     if (std::any_of(m_adapters.cbegin(), m_adapters.cend(), [&hardwareAddress](const Adapter &adapter) {
             return adapter.hardwareAddress == hardwareAddress;
         })) {
@@ -283,24 +284,27 @@ bool OrvetPeerWorker::startOnHostAddress(const QNetworkAddressEntry &entry, cons
                                         "Failed binding request socket"};
     static const SocketRole responseRole{SLOT(processResponse()), "Bound response socket",
                                          "Failed binding response socket"};
-    QUdpSocket *requestSocket = openSocket(requestRole, entry.ip(), requestPort);
-    QUdpSocket *responseSocket = openSocket(responseRole, entry.ip(), responsePort);
+    QUdpSocket *requestSocket = openSocket(requestRole, address, requestPort);
+    QUdpSocket *responseSocket = openSocket(responseRole, address, responsePort);
 
     qCDebug(lcOrvet) << "Orvet peer started on device" << hardwareAddress;
-    m_adapters.append({entry.ip().toString(), hardwareAddress, requestSocket, responseSocket, entry});
-    qCInfo(lcOrvet) << "Added port for device" << hardwareAddress << "with ip" << entry.ip().toString();
+    const QString ipAddress = address.entry.ip().toString();
+    m_adapters.append({ipAddress, hardwareAddress, requestSocket, responseSocket, address.entry});
+    qCInfo(lcOrvet) << "Added port for device" << hardwareAddress << "with ip" << ipAddress;
     return requestSocket->state() != QAbstractSocket::BoundState
         || responseSocket->state() != QAbstractSocket::BoundState;
 }
 
-QUdpSocket *OrvetPeerWorker::openSocket(const SocketRole &role, const QHostAddress &address, quint16 port)
+QUdpSocket *OrvetPeerWorker::openSocket(const SocketRole &role,
+                                        const NetworkHelper::InterfaceAddress &address, quint16 port)
 {
+    const QString ipAddress = address.entry.ip().toString();
     auto *socket = new QUdpSocket(this);
     connect(socket, SIGNAL(readyRead()), this, role.readyReadSlot);
     if (NetworkHelper::bindToInterface(socket, address, port)) {
-        qCInfo(lcOrvet) << role.boundText << address.toString() << "to port" << port;
+        qCInfo(lcOrvet) << role.boundText << ipAddress << "to port" << port;
     } else {
-        qCCritical(lcOrvet) << role.failedText << address.toString() << "to port" << port;
+        qCCritical(lcOrvet) << role.failedText << ipAddress << "to port" << port;
         socket->close();
     }
     return socket;

@@ -75,9 +75,10 @@ private:
     template <typename Condition>
     void removeAdapters(Condition isGone);
     InterfaceAddresses usableInterfaces() const;
-    bool startOnHostAddress(const QNetworkAddressEntry &entry, const QString &hardwareAddress,
-                            quint16 requestPort, quint16 responsePort);
-    QUdpSocket *openSocket(const SocketRole &role, const QHostAddress &address, quint16 port);
+    bool startOnHostAddress(const NetworkHelper::InterfaceAddress &address, quint16 requestPort,
+                            quint16 responsePort);
+    QUdpSocket *openSocket(const SocketRole &role, const NetworkHelper::InterfaceAddress &address,
+                           quint16 port);
     void broadcastRequest(const QByteArray &packet);
     void answer(const QByteArray &request, const QString &hardwareAddress);
     void answerDiscover(const QString &hardwareAddress);
