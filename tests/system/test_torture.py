@@ -6,6 +6,7 @@
 import contextlib
 import ctypes
 import os
+import resource
 import select
 import socket
 import subprocess
@@ -85,6 +86,14 @@ class Torture(harness.TestCase):
     def test_descriptors_are_few(self):
         with unittest.mock.patch.dict(os.environ, SIMULATOR_LAUNCHER="prlimit --nofile=64"):
             simulator = self.start()
+        simulator.wait_for_log("Added port for device")
+        harness.write_to_channel(b"\0\0\0\x01x")
+        simulator.wait_for_log("Could not interpret URL")  # started: no descriptor is needed but for masters
+        resource.prlimit(simulator.process.pid, resource.RLIMIT_NOFILE, (8, 64))
+        with self.connect() as first:
+            simulator.wait_for_log("Could not accept a Modbus master:")
+            resource.prlimit(simulator.process.pid, resource.RLIMIT_NOFILE, (64, 64))
+            self.assertRaises(ConnectionResetError, first.recv, 1)
         masters = [self.connect() for _ in range(64)]
         simulator.wait_for_log("Further Modbus masters have to wait, connected are")
         for master in masters:

@@ -12,6 +12,7 @@
 #include <QHostAddress>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTimer>
 #include <QtEndian>
 
 #include <algorithm>
@@ -26,6 +27,8 @@ enum FunctionCode : quint8 {
 
 // A request takes 260 bytes at the most; what a master sends beyond this before it is served waits in TCP.
 constexpr qint64 readBufferSize = 65536;
+
+constexpr int acceptRetryMs = 1000;
 
 // For the window, discovery, files and the single-instance channel.
 constexpr int reservedDescriptors = 48;
@@ -96,6 +99,7 @@ void ModbusTcpSlavePrivate::init(ModbusTcpSlave *slave)
     m_server = new QTcpServer(this);
     m_watch = new SocketWatch(this);
     connect(m_server, SIGNAL(newConnection()), this, SLOT(processNewClientConnection()));
+    connect(m_server, &QTcpServer::acceptError, this, &ModbusTcpSlavePrivate::listenAgainLater);
     m_maximumClients = std::max(1, SystemHelper::maximumDescriptors() - reservedDescriptors);
 }
 
@@ -147,6 +151,20 @@ void ModbusTcpSlavePrivate::acceptFurtherClients()
             m_server->resumeAccepting();
         }
     }
+}
+
+// A server that the system refuses its first connection, be it for want of descriptors, accepts no other, and
+// resuming does not help: it keeps the error until it listens anew.
+void ModbusTcpSlavePrivate::listenAgainLater()
+{
+    qCWarning(lcModbus) << "Could not accept a Modbus master:" << m_server->errorString();
+    QTimer::singleShot(acceptRetryMs, m_server, [this] {
+        if (m_server->isListening()) {
+            const quint16 port = m_server->serverPort();
+            m_server->close();
+            q->start(port);
+        }
+    });
 }
 
 void ModbusTcpSlavePrivate::processRequest()

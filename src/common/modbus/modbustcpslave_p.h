@@ -56,6 +56,7 @@ private slots:
 
 private:
     void acceptFurtherClients();
+    void listenAgainLater();
     void adopt(QTcpSocket *client);
     void serve(QTcpSocket *socket);
 };
