@@ -30,12 +30,14 @@ constexpr qint64 readBufferSize = 65536;
 
 constexpr int acceptRetryMs = 1000;
 
+// So few masters are served faster by Qt's event loop: the watch costs another system call.
+constexpr int clientsInEventLoop = 16;
+
 // For the window, discovery, files and the single-instance channel.
 constexpr int reservedDescriptors = 48;
 
-// Takes up requests that arrived while an answer was on its way out. Qt reads them into the socket's buffer
-// during a blocking send and emits no further readyRead() for them. The way through the event loop gives
-// other masters their turn in between.
+// Qt reads what arrives during a blocking send into the socket's buffer and emits no further readyRead() for
+// it. The way through the event loop gives other masters their turn in between.
 void takeUpWaitingRequest(QTcpSocket *socket)
 {
     if (socket->bytesToWrite() == 0 && socket->bytesAvailable() > 0) {
@@ -128,8 +130,9 @@ void ModbusTcpSlavePrivate::adopt(QTcpSocket *client)
     // With the socket as its own receiver: sender() searches all connections to a receiver, which takes
     // longer than the answer when a thousand masters share one.
     connect(client, &QTcpSocket::readyRead, client, [this, client] { serve(client); });
-    m_watch->add(client);
-    connect(client, &QTcpSocket::bytesWritten, client, [client] { takeUpWaitingRequest(client); });
+    if (m_clients.size() > clientsInEventLoop) {
+        m_watch->add(client);
+    }
     // The server is the receiver, so that sockets which it deletes at the end of its life find nobody to
     // tell.
     connect(client, &QTcpSocket::disconnected, m_server, [this, client] {
@@ -180,8 +183,7 @@ void ModbusTcpSlavePrivate::processRequest()
 void ModbusTcpSlavePrivate::serve(QTcpSocket *socket)
 {
     // A master that does not fetch its answer has to wait with its next request: otherwise every one of them
-    // would hold up all other masters for the time-out of the blocking send. bytesWritten() takes it up
-    // again.
+    // would hold up all other masters for the time-out of the blocking send.
     if (socket->bytesToWrite() > 0) {
         return;
     }
@@ -206,6 +208,17 @@ void ModbusTcpSlavePrivate::serve(QTcpSocket *socket)
     default:
         handleCustomFunctionCode(socket, request);
     }
+
+    if (socket->bytesToWrite() > 0) {
+        connect(socket, &QTcpSocket::bytesWritten, this, &ModbusTcpSlavePrivate::processBytesWritten,
+                Qt::UniqueConnection);
+    }
+    takeUpWaitingRequest(socket);
+}
+
+void ModbusTcpSlavePrivate::processBytesWritten()
+{
+    takeUpWaitingRequest(static_cast<QTcpSocket *>(sender()));
 }
 
 QByteArray ModbusTcpSlavePrivate::sendResponse(QTcpSocket *socket, const TcpApplicationDataUnit &request,
@@ -237,7 +250,7 @@ quint32 ModbusTcpSlavePrivate::valueBits(const QVariant &value)
     case QMetaType::Float:
     case QMetaType::Double:
         std::memcpy(&bits, value.constData(),
-                    std::min(sizeof bits, static_cast<std::size_t>(QMetaType(value.userType()).sizeOf())));
+                    std::min(sizeof bits, static_cast<std::size_t>(QMetaType::sizeOf(value.userType()))));
         break;
     default:
         break;

@@ -59,4 +59,5 @@ private:
     void listenAgainLater();
     void adopt(QTcpSocket *client);
     void serve(QTcpSocket *socket);
+    void processBytesWritten();
 };
