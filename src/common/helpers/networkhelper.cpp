@@ -36,13 +36,15 @@ bool isClosed(const QAbstractSocket *socket)
     return socket->state() == QAbstractSocket::UnconnectedState;
 }
 
-// flush() lets the operating system take what it can at once, which is everything in nearly all cases and
-// saves the system calls of a wait. A peer that closes meanwhile is not a failure, however late it does so.
-bool waitUntilSent(QAbstractSocket *socket)
+// Sends the data as far as the operating system takes it at once, which is everything in nearly all cases. Only
+// where it takes nothing is there a wait. A peer that closes meanwhile is not a failure, however late it does so.
+bool writeAndWait(QAbstractSocket *socket, const QByteArray &data)
 {
+    const qint64 unsent = socket->bytesToWrite() + data.size();
+    socket->write(data);
     socket->flush();
-    return isClosed(socket) || socket->bytesToWrite() == 0 || socket->waitForBytesWritten(transferTimeoutMs)
-        || isClosed(socket);
+    return isClosed(socket) || socket->bytesToWrite() == 0 || socket->bytesToWrite() < unsent
+        || socket->waitForBytesWritten(transferTimeoutMs) || isClosed(socket);
 }
 
 QString proxySetting(const char *name)
@@ -84,8 +86,7 @@ void NetworkHelper::sendPacket(QAbstractSocket *socket, const QByteArray &data, 
         return;
     }
 
-    socket->write(data);
-    const bool sent = waitUntilSent(socket);
+    const bool sent = writeAndWait(socket, data);
     if (!sent) {
         qCInfo(lcNetworkHelper) << "Write timeout.";
     }
