@@ -5,6 +5,7 @@
 
 #pragma once
 
+#include "common/modbus/modbusconnections.h"
 #include "testdata.h"
 
 #include <QAbstractAnimation>
@@ -32,7 +33,8 @@ public:
     QByteArray exchange(const QByteArray &request, int answerSize)
     {
         write(QByteArray::fromHex(request));
-        (void)QTest::qWaitFor([&] { return bytesAvailable() >= answerSize; });
+        while (bytesAvailable() < answerSize && QSignalSpy(this, &QTcpSocket::readyRead).wait()) {
+        }
         return readAll();
     }
 
@@ -56,7 +58,7 @@ inline void play(const QStringList &steps, ModbusClient &client, QObject *device
         const QString rest = step.section(u' ', 1);
         const QByteArray bytes = QByteArray::fromHex(rest.toLatin1());
         if (verb == ">"_s) {
-            const QSignalSpy read(device->findChild<QTcpSocket *>(), &QTcpSocket::readyRead);
+            const QSignalSpy read(device->findChild<ModbusConnections *>(), &ModbusConnections::requestReceived);
             client.write(bytes);
             QVERIFY(QTest::qWaitFor([&] { return read.count() > 0; }));
         } else if (verb == "<"_s) {

@@ -5,14 +5,10 @@
 
 #include "common/helpers/loggingcategories.h"
 #include "common/helpers/networkhelper.h"
-#include "common/helpers/systemhelper.h"
+#include "common/modbus/modbusconnections.h"
 #include "common/modbus/modbustcpslave_p.h"
-#include "common/modbus/socketwatch.h"
 
-#include <QHostAddress>
-#include <QTcpServer>
-#include <QTcpSocket>
-#include <QTimer>
+#include <QAbstractSocket>
 #include <QtEndian>
 
 #include <algorithm>
@@ -25,24 +21,19 @@ enum FunctionCode : quint8 {
     WriteMultipleRegisters = 16,
 };
 
-// A request takes 260 bytes at the most; what a master sends beyond this before it is served waits in TCP.
-constexpr qint64 readBufferSize = 65536;
-
-constexpr int acceptRetryMs = 1000;
-
-// So few masters are served faster by Qt's event loop: the watch costs another system call.
-constexpr int clientsInEventLoop = 16;
-
-// For the window, discovery, files and the single-instance channel.
-constexpr int reservedDescriptors = 48;
-
-// Qt reads what arrives during a blocking send into the socket's buffer and emits no further readyRead() for
-// it. The way through the event loop gives other masters their turn in between.
-void takeUpWaitingRequest(QTcpSocket *socket)
+struct RegisterRange
 {
-    if (socket->bytesToWrite() == 0 && socket->bytesAvailable() > 0) {
-        QMetaObject::invokeMethod(socket, "readyRead", Qt::QueuedConnection);
-    }
+    quint16 start;
+    quint16 count;
+};
+
+// Both standard requests begin with it.
+constexpr int rangeSize = 4;
+
+RegisterRange registerRange(const TcpApplicationDataUnit &request)
+{
+    const QByteArray fields = request.pdu().data();
+    return {qFromBigEndian<quint16>(fields.constData()), qFromBigEndian<quint16>(fields.constData() + 2)};
 }
 
 } // namespace
@@ -75,22 +66,20 @@ void ModbusTcpSlave::setHoldingRegister(quint16 number, const QVariant &value)
 
 void ModbusTcpSlave::start(quint16 port)
 {
-    if (d->m_server->listen(QHostAddress::Any, port)) {
-        NetworkHelper::widenBacklog(d->m_server);
-    } else {
+    if (!d->m_connections->start(port)) {
         qCCritical(lcModbus) << "Failed listening on port" << port;
     }
 }
 
 void ModbusTcpSlave::stop()
 {
-    d->m_server->close();
+    d->m_connections->stop();
 }
 
 ModbusTcpSlavePrivate::~ModbusTcpSlavePrivate()
 {
-    if (m_server) {
-        m_server->close();
+    if (m_connections) {
+        m_connections->stop();
     }
 }
 
@@ -98,137 +87,63 @@ void ModbusTcpSlavePrivate::init(ModbusTcpSlave *slave)
 {
     q = slave;
     setParent(slave);
-    m_server = new QTcpServer(this);
-    m_watch = new SocketWatch(this);
-    connect(m_server, SIGNAL(newConnection()), this, SLOT(processNewClientConnection()));
-    connect(m_server, &QTcpServer::acceptError, this, &ModbusTcpSlavePrivate::listenAgainLater);
-    m_maximumClients = std::max(1, SystemHelper::maximumDescriptors() - reservedDescriptors);
+    m_connections = new ModbusConnections(this);
+    // Blanks in a signature would cost Qt a normalisation.
+    // clang-format off
+    connect(m_connections, SIGNAL(requestReceived(QAbstractSocket*,QByteArray)),
+            this, SLOT(processRequest(QAbstractSocket*,QByteArray)));
+    // clang-format on
 }
 
-void ModbusTcpSlavePrivate::processNewClientConnection()
+void ModbusTcpSlavePrivate::processRequest(QAbstractSocket *master, const QByteArray &bytes)
 {
-    auto *server = qobject_cast<QTcpServer *>(sender());
-    if (!server) {
-        qCCritical(lcModbus) << "Called from invalid or non-QTcpServer object.";
-        return;
-    }
-    while (m_server->hasPendingConnections()) {
-        adopt(m_server->nextPendingConnection());
-    }
-    if (m_clients.size() >= m_maximumClients) {
-        qCWarning(lcModbus) << "Further Modbus masters have to wait, connected are" << m_clients.size();
-        m_server->setMaxPendingConnections(0);
-    }
-}
-
-void ModbusTcpSlavePrivate::adopt(QTcpSocket *client)
-{
-    client->setReadBufferSize(readBufferSize);
-    // A master whose cable is pulled says no goodbye; the system finds out in about two hours.
-    client->setSocketOption(QAbstractSocket::KeepAliveOption, 1);
-    m_clients.append(client);
-    // With the socket as its own receiver: sender() searches all connections to a receiver, which takes
-    // longer than the answer when a thousand masters share one.
-    connect(client, &QTcpSocket::readyRead, client, [this, client] { serve(client); });
-    if (m_clients.size() > clientsInEventLoop) {
-        m_watch->add(client);
-    }
-    // The server is the receiver, so that sockets which it deletes at the end of its life find nobody to
-    // tell.
-    connect(client, &QTcpSocket::disconnected, m_server, [this, client] {
-        m_clients.removeOne(client);
-        client->deleteLater();
-        acceptFurtherClients();
-    });
-    qCDebug(lcModbus) << "Modbus master" << client->peerAddress().toString() << "connected.";
-}
-
-// Qt's server spins when descriptors run out, and the single-instance channel closes for good. So masters
-// beyond the limit have to wait until others leave: with the system, where they hold no descriptor, and not
-// as pending connections of the server, whose sockets would read requests that nobody takes up.
-void ModbusTcpSlavePrivate::acceptFurtherClients()
-{
-    if (m_server->maxPendingConnections() == 0) {
-        m_server->setMaxPendingConnections(1);
-        if (m_server->isListening()) {
-            m_server->resumeAccepting();
-        }
-    }
-}
-
-// A server that the system refuses its first connection, be it for want of descriptors, accepts no other, and
-// resuming does not help: it keeps the error until it listens anew.
-void ModbusTcpSlavePrivate::listenAgainLater()
-{
-    qCWarning(lcModbus) << "Could not accept a Modbus master:" << m_server->errorString();
-    QTimer::singleShot(acceptRetryMs, m_server, [this] {
-        if (m_server->isListening()) {
-            const quint16 port = m_server->serverPort();
-            m_server->close();
-            q->start(port);
-        }
-    });
-}
-
-void ModbusTcpSlavePrivate::processRequest()
-{
-    auto *socket = qobject_cast<QTcpSocket *>(sender());
-    if (!socket) {
-        qCCritical(lcModbus) << "Called from invalid or non-QTcpSocket object.";
-        return;
-    }
-    serve(socket);
-}
-
-void ModbusTcpSlavePrivate::serve(QTcpSocket *socket)
-{
-    // A master that does not fetch its answer has to wait with its next request: otherwise every one of them
-    // would hold up all other masters for the time-out of the blocking send.
-    if (socket->bytesToWrite() > 0) {
-        return;
-    }
-    const QByteArray bytes = socket->readAll();
-    if (bytes.isEmpty()) {
-        return;
-    }
     qCDebug(lcModbus) << "Received" << bytes.size() << "byte request:" << bytes.toHex(' ');
     if (bytes.size() < TcpApplicationDataUnit::minimumSize) {
         qCWarning(lcModbus) << "Invalid request, shorter than a Modbus TCP header.";
         return;
     }
-
     const auto request = TcpApplicationDataUnit::fromByteArray(bytes);
+    const std::optional<QByteArray> data = handle(request);
+    if (!data) {
+        return;
+    }
+    const TcpApplicationDataUnit response(request.transactionId(), request.protocolId(), request.unitId(),
+                                          ProtocolDataUnit(request.pdu().functionCode(), *data));
+    const QByteArray responseBytes = response.toByteArray();
+    NetworkHelper::sendPacket(master, responseBytes, nullptr);
+    report(request, responseBytes);
+}
+
+std::optional<QByteArray> ModbusTcpSlavePrivate::handle(const TcpApplicationDataUnit &request)
+{
     switch (request.pdu().functionCode()) {
     case ReadHoldingRegisters:
-        handleReadHoldingRegisters(socket, request);
-        break;
+        return handleReadHoldingRegisters(request);
     case WriteMultipleRegisters:
-        handleWriteMultipleRegisters(socket, request);
-        break;
+        return handleWriteMultipleRegisters(request);
     default:
-        handleCustomFunctionCode(socket, request);
+        return handleCustomFunctionCode(request);
     }
-
-    if (socket->bytesToWrite() > 0) {
-        connect(socket, &QTcpSocket::bytesWritten, this, &ModbusTcpSlavePrivate::processBytesWritten,
-                Qt::UniqueConnection);
-    }
-    takeUpWaitingRequest(socket);
 }
 
-void ModbusTcpSlavePrivate::processBytesWritten()
+void ModbusTcpSlavePrivate::report(const TcpApplicationDataUnit &request, const QByteArray &response)
 {
-    takeUpWaitingRequest(static_cast<QTcpSocket *>(sender()));
-}
-
-QByteArray ModbusTcpSlavePrivate::sendResponse(QTcpSocket *socket, const TcpApplicationDataUnit &request,
-                                               const QByteArray &data)
-{
-    const TcpApplicationDataUnit response(request.transactionId(), request.protocolId(), request.unitId(),
-                                          ProtocolDataUnit(request.pdu().functionCode(), data));
-    QByteArray bytes = response.toByteArray();
-    NetworkHelper::sendPacket(socket, bytes, nullptr);
-    return bytes;
+    switch (request.pdu().functionCode()) {
+    case ReadHoldingRegisters: {
+        const RegisterRange range = registerRange(request);
+        emit q->holdingRegisterRead(range.start, range.count);
+        qCDebug(lcModbus) << "Sent response to ReadHoldingRegisters request:" << response.toHex(' ');
+        break;
+    }
+    case WriteMultipleRegisters: {
+        const RegisterRange range = registerRange(request);
+        emit q->holdingRegisterWritten(range.start, range.count);
+        qCDebug(lcModbus) << "Sent response to WriteMultipleRegisters request:" << response.toHex(' ');
+        break;
+    }
+    default:
+        break;
+    }
 }
 
 quint32 ModbusTcpSlavePrivate::valueBits(const QVariant &value)
@@ -268,48 +183,48 @@ bool ModbusTcpSlavePrivate::hasData(const TcpApplicationDataUnit &request, int s
     return false;
 }
 
-void ModbusTcpSlavePrivate::handleReadHoldingRegisters(QTcpSocket *socket,
-                                                       const TcpApplicationDataUnit &request)
+std::optional<QByteArray>
+ModbusTcpSlavePrivate::handleReadHoldingRegisters(const TcpApplicationDataUnit &request) const
 {
-    if (!hasData(request, 4)) {
-        return;
+    if (!hasData(request, rangeSize)) {
+        return {};
     }
-    const QByteArray fields = request.pdu().data();
-    const auto start = qFromBigEndian<quint16>(fields.constData());
-    const auto count = qFromBigEndian<quint16>(fields.constData() + 2);
+    const auto [start, count] = registerRange(request);
     qCDebug(lcModbus) << "Requested" << count << "registers, starting from" << start << ".";
 
     // Counts beyond the 125 of the Modbus standard are served too; the byte count then wraps.
     QByteArray data(2 * count + 1, Qt::Uninitialized);
     char *word = data.data();
     *word++ = static_cast<char>(2 * count);
+    auto next = m_registers.lowerBound(start);
     for (int i = 0; i < count; ++i, word += 2) {
-        const QVariant value = q->holdingRegister(static_cast<quint16>(start + i));
-        qToBigEndian(static_cast<quint16>(valueBits(value)), word);
+        const auto number = static_cast<quint16>(start + i);
+        if (number == 0) {
+            next = m_registers.cbegin();
+        }
+        const bool isSet = next != m_registers.cend() && next.key() == number;
+        const quint32 bits = isSet ? valueBits(*next++) : valueBits(q->holdingRegister(number));
+        qToBigEndian(static_cast<quint16>(bits), word);
     }
-
-    const QByteArray response = sendResponse(socket, request, data);
-    emit q->holdingRegisterRead(start, count);
-    qCDebug(lcModbus) << "Sent response to ReadHoldingRegisters request:" << response.toHex(' ');
+    return data;
 }
 
-void ModbusTcpSlavePrivate::handleWriteMultipleRegisters(QTcpSocket *socket,
-                                                         const TcpApplicationDataUnit &request)
+std::optional<QByteArray>
+ModbusTcpSlavePrivate::handleWriteMultipleRegisters(const TcpApplicationDataUnit &request)
 {
-    constexpr int valuesOffset = 5;
+    constexpr int valuesOffset = rangeSize + 1;
     if (!hasData(request, valuesOffset)) {
-        return;
+        return {};
     }
+    const auto [start, count] = registerRange(request);
     const QByteArray fields = request.pdu().data();
-    const auto start = qFromBigEndian<quint16>(fields.constData());
-    const auto count = qFromBigEndian<quint16>(fields.constData() + 2);
-    const int byteCount = static_cast<quint8>(fields.at(4));
+    const int byteCount = static_cast<quint8>(fields.at(rangeSize));
     if (byteCount != 2 * count) {
         qCWarning(lcModbus) << "Invalid request, byteCount != 2 * registerCount.";
-        return;
+        return {};
     }
     if (!hasData(request, valuesOffset + byteCount)) {
-        return;
+        return {};
     }
     qCDebug(lcModbus) << "Requested writing" << count << "registers, starting from" << start << ".";
 
@@ -320,18 +235,16 @@ void ModbusTcpSlavePrivate::handleWriteMultipleRegisters(QTcpSocket *socket,
     }
 
     // The device echoes both fields with their bytes swapped, and its masters expect that.
-    QByteArray data(4, Qt::Uninitialized);
+    QByteArray data(rangeSize, Qt::Uninitialized);
     qToLittleEndian(start, data.data());
     qToLittleEndian(count, data.data() + 2);
-    const QByteArray response = sendResponse(socket, request, data);
-    emit q->holdingRegisterWritten(start, count);
-    qCDebug(lcModbus) << "Sent response to WriteMultipleRegisters request:" << response.toHex(' ');
+    return data;
 }
 
-void ModbusTcpSlavePrivate::handleCustomFunctionCode(QTcpSocket *socket,
-                                                     const TcpApplicationDataUnit &request)
+std::optional<QByteArray>
+ModbusTcpSlavePrivate::handleCustomFunctionCode(const TcpApplicationDataUnit &request)
 {
-    Q_UNUSED(socket)
     Q_UNUSED(request)
     qCDebug(lcModbus) << "Received custom function code, but I'm a plain modbus tcp instance.";
+    return {};
 }

@@ -7,15 +7,15 @@
 
 #include "common/modbus/tcpapplicationdataunit.h"
 
-#include <QList>
 #include <QMap>
 #include <QObject>
 #include <QVariant>
 
+#include <optional>
+
+class ModbusConnections;
 class ModbusTcpSlave;
-class QTcpServer;
-class QTcpSocket;
-class SocketWatch;
+class QAbstractSocket;
 
 class ModbusTcpSlavePrivate : public QObject
 {
@@ -28,36 +28,27 @@ public:
     // Makes this a child of its public object and creates the server. Called once, by the public constructor.
     void init(ModbusTcpSlave *slave);
 
-    // Answers a request with the request's own header fields and function code. Returns the bytes sent.
-    static QByteArray sendResponse(QTcpSocket *socket, const TcpApplicationDataUnit &request,
-                                   const QByteArray &data);
-
     // The first 32 bits of a number as memory holds it; 0 for anything but a number.
     static quint32 valueBits(const QVariant &value);
 
     // Whether the request's data has the size that its handler reads; logs a warning if not.
     static bool hasData(const TcpApplicationDataUnit &request, int size);
 
-    void handleReadHoldingRegisters(QTcpSocket *socket, const TcpApplicationDataUnit &request);
-    void handleWriteMultipleRegisters(QTcpSocket *socket, const TcpApplicationDataUnit &request);
+    // The handlers return the data of the answer, or nothing where there is none.
+    std::optional<QByteArray> handleReadHoldingRegisters(const TcpApplicationDataUnit &request) const;
+    std::optional<QByteArray> handleWriteMultipleRegisters(const TcpApplicationDataUnit &request);
     // Gets every function code but 3 and 16.
-    virtual void handleCustomFunctionCode(QTcpSocket *socket, const TcpApplicationDataUnit &request);
+    virtual std::optional<QByteArray> handleCustomFunctionCode(const TcpApplicationDataUnit &request);
 
     ModbusTcpSlave *q = nullptr;
-    QTcpServer *m_server = nullptr;
-    QList<QTcpSocket *> m_clients; // children of m_server, deleted when they disconnect
+    ModbusConnections *m_connections = nullptr;
     QMap<quint16, QVariant> m_registers;
-    int m_maximumClients = 0;
-    SocketWatch *m_watch = nullptr;
 
-private slots:
-    void processNewClientConnection();
-    void processRequest(); // for sockets that somebody else accepted
+public slots:
+    // Serves the bytes of one read as one request: answers it, then tells what was read or written.
+    void processRequest(QAbstractSocket *master, const QByteArray &bytes);
 
 private:
-    void acceptFurtherClients();
-    void listenAgainLater();
-    void adopt(QTcpSocket *client);
-    void serve(QTcpSocket *socket);
-    void processBytesWritten();
+    std::optional<QByteArray> handle(const TcpApplicationDataUnit &request);
+    void report(const TcpApplicationDataUnit &request, const QByteArray &response);
 };

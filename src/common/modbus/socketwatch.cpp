@@ -3,19 +3,63 @@
 
 #include "common/modbus/socketwatch.h"
 
-#include <QtGlobal>
+#include <QTimer>
+
+#ifdef Q_OS_WIN
+#include <winsock2.h>
+#else
+#include <poll.h>
+#endif
 
 #ifdef Q_OS_LINUX
-
 #include <QAbstractEventDispatcher>
-#include <QCoreApplication>
 #include <QSocketNotifier>
-#include <QTcpSocket>
 
 #include <sys/epoll.h>
 #include <unistd.h>
 
 #include <array>
+#endif
+
+namespace {
+
+constexpr int roomRetryMs = 20;
+
+#ifdef Q_OS_LINUX
+// A turn of the event loop serves no more sockets than this, so that the window and new masters get theirs.
+constexpr int socketsPerTurn = 64;
+#endif
+
+bool hasRoomForAnswer(const QAbstractSocket &socket)
+{
+#ifdef Q_OS_WIN
+    WSAPOLLFD question = {static_cast<SOCKET>(socket.socketDescriptor()), POLLOUT, 0};
+    return WSAPoll(&question, 1, 0) != 0;
+#else
+    pollfd question = {static_cast<int>(socket.socketDescriptor()), POLLOUT, 0};
+    return ::poll(&question, 1, 0) != 0;
+#endif
+}
+
+} // namespace
+
+void SocketWatch::add(QAbstractSocket *socket)
+{
+    if (!addToEpoll(socket)) {
+        connect(socket, &QAbstractSocket::readyRead, this, [this, socket] { announce(socket); });
+    }
+}
+
+void SocketWatch::announce(QAbstractSocket *socket)
+{
+    if (hasRoomForAnswer(*socket)) {
+        emit ready(socket);
+    } else {
+        QTimer::singleShot(roomRetryMs, socket, [this, socket] { announce(socket); });
+    }
+}
+
+#ifdef Q_OS_LINUX
 
 SocketWatch::SocketWatch(QObject *parent) : QObject(parent), m_epoll(epoll_create1(EPOLL_CLOEXEC))
 {
@@ -32,40 +76,41 @@ SocketWatch::~SocketWatch()
     }
 }
 
-// A socket learns of incoming data through a notifier among its children. That one stays enabled, so the
-// socket has no reason to touch it, but is taken out of the event loop: its events come from deliver()
-// instead.
-void SocketWatch::add(const QTcpSocket *socket)
+// Edge-triggered: a socket whose data is left alone for a while is not reported again and again. The system
+// reports both directions whenever one of them changes.
+bool SocketWatch::addToEpoll(QAbstractSocket *socket)
 {
+    const auto descriptor = static_cast<int>(socket->socketDescriptor());
+    epoll_event event = {};
+    event.events = EPOLLIN | EPOLLOUT | EPOLLET;
+    event.data.fd = descriptor;
+    if (epoll_ctl(m_epoll, EPOLL_CTL_ADD, descriptor, &event) != 0) {
+        return false;
+    }
+    m_sockets.insert(descriptor, socket);
+    // The socket keeps its notifier, enabled, so it has no reason to touch it; Qt's loop no longer knows it.
     const auto notifiers = socket->findChildren<QSocketNotifier *>();
     for (QSocketNotifier *notifier : notifiers) {
-        const auto descriptor = static_cast<int>(notifier->socket());
-        epoll_event event = {};
-        event.events = EPOLLIN;
-        event.data.fd = descriptor;
-        if (notifier->type() == QSocketNotifier::Read
-            && epoll_ctl(m_epoll, EPOLL_CTL_ADD, descriptor, &event) == 0) {
-            m_notifiers.insert(descriptor, notifier);
+        if (notifier->type() == QSocketNotifier::Read) {
             QAbstractEventDispatcher::instance()->unregisterSocketNotifier(notifier);
         }
     }
+    return true;
 }
 
 void SocketWatch::deliver()
 {
-    std::array<epoll_event, 64> ready = {};
-    const int count = epoll_wait(m_epoll, ready.data(), static_cast<int>(ready.size()), 0);
+    constexpr quint32 request = EPOLLIN | EPOLLOUT;
+    constexpr quint32 failure = EPOLLERR | EPOLLHUP;
+    std::array<epoll_event, socketsPerTurn> events = {};
+    const int count = epoll_wait(m_epoll, events.data(), socketsPerTurn, 0);
     for (int i = 0; i < count; ++i) {
-        const int descriptor = ready.at(static_cast<std::size_t>(i)).data.fd;
-        const QPointer<QSocketNotifier> notifier = m_notifiers.value(descriptor);
-        if (notifier) {
-            QEvent activation(QEvent::SockAct);
-            QCoreApplication::sendEvent(notifier, &activation);
-        }
-        // A socket with a full read buffer disables its notifier. Enabling it later puts it back into Qt's
-        // loop, where it stays for good.
-        if (notifier && !notifier->isEnabled()) {
-            epoll_ctl(m_epoll, EPOLL_CTL_DEL, descriptor, nullptr);
+        const epoll_event &event = events.at(static_cast<std::size_t>(i));
+        const bool isReady = (event.events & request) == request || (event.events & failure) != 0;
+        // By descriptor, as a socket may go while others of its turn are served.
+        QAbstractSocket *socket = isReady ? m_sockets.value(event.data.fd) : nullptr;
+        if (socket) {
+            emit ready(socket);
         }
     }
 }
@@ -78,9 +123,14 @@ SocketWatch::SocketWatch(QObject *parent) : QObject(parent), m_epoll(-1)
 
 SocketWatch::~SocketWatch() = default;
 
-void SocketWatch::add(const QTcpSocket *socket)
+bool SocketWatch::addToEpoll(QAbstractSocket *socket)
 {
     Q_UNUSED(socket)
+    return false;
+}
+
+void SocketWatch::deliver()
+{
 }
 
 #endif

@@ -3,31 +3,40 @@
 
 #pragma once
 
+#include <QAbstractSocket>
 #include <QHash>
 #include <QObject>
 #include <QPointer>
 
-class QSocketNotifier;
-class QTcpSocket;
-
-// Watches any number of sockets for incoming data at the price of one.
+// Watches any number of connected sockets at the price of one, each as often as any other.
 //
 // Qt's event loop passes all its sockets to the kernel each time it waits, so a thousand masters that are
 // merely connected make the one that asks wait ten times as long. On Linux the sockets added here are kept in
-// one epoll descriptor, and Qt's loop sees only that. On other platforms, and where there is no epoll
-// descriptor to be had, they stay with Qt's loop. Sockets behave the same either way.
+// one epoll descriptor, and Qt's loop sees only that. On other platforms, and where the system has no epoll
+// descriptor left, they stay with Qt's loop.
+//
+// Lives on the thread of its sockets, which stay the caller's and may be deleted at any time.
 class SocketWatch : public QObject
 {
+    Q_OBJECT
+
 public:
     explicit SocketWatch(QObject *parent = nullptr);
     ~SocketWatch() override;
 
-    // Takes over a connected socket of this object's thread, until it closes.
-    void add(const QTcpSocket *socket);
+    // Takes a connected, unbuffered socket, until it closes.
+    void add(QAbstractSocket *socket);
+
+signals:
+    // Something has arrived, be it the end of the connection, and an answer would be taken at once. Emitted once
+    // for what has arrived, whether the receiver reads it or not.
+    void ready(QAbstractSocket *socket);
 
 private:
+    bool addToEpoll(QAbstractSocket *socket);
     void deliver();
+    void announce(QAbstractSocket *socket);
 
     const int m_epoll;
-    QHash<int, QPointer<QSocketNotifier>> m_notifiers; // by descriptor
+    QHash<int, QPointer<QAbstractSocket>> m_sockets; // by descriptor
 };

@@ -109,8 +109,8 @@ QList<quint16> VarnoModbusTcpSlave::propertyNumbers() const
     return properties().keys();
 }
 
-void VarnoModbusTcpSlavePrivate::handleCustomFunctionCode(QTcpSocket *socket,
-                                                          const TcpApplicationDataUnit &request)
+std::optional<QByteArray>
+VarnoModbusTcpSlavePrivate::handleCustomFunctionCode(const TcpApplicationDataUnit &request)
 {
     QString VarnoModbusProperty::*text = nullptr;
     switch (request.pdu().functionCode()) {
@@ -128,15 +128,15 @@ void VarnoModbusTcpSlavePrivate::handleCustomFunctionCode(QTcpSocket *socket,
     default:
         qCWarning(lcModbus) << "The custom function code" << request.pdu().functionCode()
                             << "is not supported.";
-        return;
+        return {};
     }
     if (!hasData(request, 2)) {
-        return;
+        return {};
     }
 
     // Unlike codes 3 and 16 these carry the register number low byte first.
     const QByteArray address = request.pdu().data();
     const auto number = static_cast<quint16>(qFromLittleEndian<quint16>(address.constData()) >> 1U);
     const VarnoModbusProperty property = static_cast<VarnoModbusTcpSlave *>(q)->deviceProperty(number);
-    sendResponse(socket, request, (text ? property.*text : property.value.toString()).toUtf8());
+    return (text ? property.*text : property.value.toString()).toUtf8();
 }

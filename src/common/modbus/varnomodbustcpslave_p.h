@@ -13,7 +13,7 @@ class VarnoModbusTcpSlavePrivate : public ModbusTcpSlavePrivate
     Q_OBJECT
 
 public:
-    void handleCustomFunctionCode(QTcpSocket *socket, const TcpApplicationDataUnit &request) override;
+    std::optional<QByteArray> handleCustomFunctionCode(const TcpApplicationDataUnit &request) override;
 
     QMap<quint16, VarnoModbusProperty> m_properties;
 };

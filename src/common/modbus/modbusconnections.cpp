@@ -1,0 +1,180 @@
+// SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+// SPDX-License-Identifier: MIT
+
+#include "common/modbus/modbusconnections.h"
+
+#include "common/helpers/loggingcategories.h"
+#include "common/helpers/networkhelper.h"
+#include "common/helpers/systemhelper.h"
+#include "common/modbus/socketwatch.h"
+
+#include <QHostAddress>
+#include <QPointer>
+
+#include <algorithm>
+
+namespace {
+
+// A request takes 260 bytes at the most; what a master sends beyond this is left to the next read.
+constexpr int readSize = 65536;
+
+// So few that masters which connect and leave at full speed are served and dropped as fast as they come.
+constexpr int acceptsPerTurn = 16;
+
+constexpr int restartDelayMs = 1000;
+
+// For the window, discovery, files and the single-instance channel.
+constexpr int reservedDescriptors = 48;
+
+} // namespace
+
+ModbusConnections::ModbusConnections(QObject *parent)
+    : QTcpServer(parent), m_watch(new SocketWatch(this)),
+      m_maximumMasters(std::max(1, SystemHelper::maximumDescriptors() - reservedDescriptors))
+{
+    m_buffer.reserve(readSize);
+    m_restartTimer.setSingleShot(true);
+    connect(&m_restartTimer, &QTimer::timeout, this, &ModbusConnections::restart);
+    connect(this, &QTcpServer::acceptError, this, &ModbusConnections::scheduleRestart);
+    connect(m_watch, &SocketWatch::ready, this, &ModbusConnections::serve);
+}
+
+bool ModbusConnections::start(quint16 port)
+{
+    if (!listen(QHostAddress::Any, port)) {
+        return false;
+    }
+    NetworkHelper::widenBacklog(this);
+    return true;
+}
+
+void ModbusConnections::stop()
+{
+    m_restartTimer.stop();
+    close();
+}
+
+// A QTcpSocket would read into a buffer of its own first and ask the system twice for each request. This one
+// passes bytes straight through.
+void ModbusConnections::incomingConnection(qintptr descriptor)
+{
+    startTurn();
+    auto *master = new QAbstractSocket(QAbstractSocket::TcpSocket, this);
+    if (!master->setSocketDescriptor(descriptor, QAbstractSocket::ConnectedState,
+                                     QIODevice::ReadWrite | QIODevice::Unbuffered)) {
+        delete master;
+        return;
+    }
+    // A master whose cable is pulled says no goodbye; the system finds out in about two hours.
+    master->setSocketOption(QAbstractSocket::KeepAliveOption, 1);
+    master->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    qCDebug(lcModbus) << "Modbus master" << master->peerAddress().toString() << "connected.";
+    m_watch->add(master);
+
+    // Qt's server spins when descriptors run out, and the single-instance channel closes for good. So masters
+    // beyond the limit have to wait until others leave: with the system, where they hold no descriptor. With
+    // no pending connection allowed, Qt's server ends its loop over all that knock.
+    if (++m_masters >= m_maximumMasters) {
+        qCWarning(lcModbus) << "Further Modbus masters have to wait, connected are" << m_masters;
+        setMaxPendingConnections(0);
+    } else if (m_acceptedThisTurn >= acceptsPerTurn) {
+        setMaxPendingConnections(0);
+    }
+}
+
+void ModbusConnections::startTurn()
+{
+    if (m_acceptedThisTurn++ == 0) {
+        QTimer::singleShot(0, this, [this] {
+            m_acceptedThisTurn = 0;
+            acceptFurther();
+        });
+    }
+}
+
+void ModbusConnections::acceptFurther()
+{
+    if (maxPendingConnections() == 0 && m_masters < m_maximumMasters) {
+        setMaxPendingConnections(1);
+        if (isListening()) {
+            resumeAccepting();
+        }
+    }
+}
+
+// A server that the system refuses its first connection, for want of descriptors perhaps, accepts no other, and
+// resuming does not help: it keeps the error until it listens anew.
+void ModbusConnections::scheduleRestart()
+{
+    qCWarning(lcModbus) << "Could not accept a Modbus master:" << errorString();
+    m_port = serverPort();
+    m_restartTimer.start(restartDelayMs);
+}
+
+void ModbusConnections::restart()
+{
+    close();
+    if (!start(m_port)) {
+        qCWarning(lcModbus) << "Could not listen again on port" << m_port;
+        m_restartTimer.start(restartDelayMs);
+    }
+}
+
+void ModbusConnections::serve(QAbstractSocket *master)
+{
+    // A master that does not fetch its answer has to wait with its next request: otherwise all of them would
+    // pile up here.
+    if (!master->isValid() || master->bytesToWrite() > 0) {
+        return;
+    }
+    m_buffer.resize(readSize);
+    const qint64 size = master->read(m_buffer.data(), readSize);
+    if (size < 0) {
+        drop(master);
+        return;
+    }
+    if (size == 0) {
+        return;
+    }
+    m_buffer.resize(static_cast<int>(size));
+    // A receiver may run an event loop, in which the buffer is used again and the master goes.
+    const QPointer<QAbstractSocket> guard(master);
+    emit requestReceived(master, QByteArray(m_buffer));
+    if (!guard) {
+        return;
+    }
+    if (!master->isValid()) {
+        drop(master);
+    } else if (master->bytesToWrite() > 0) {
+        waitUntilFetched(master);
+    } else if (size == readSize) {
+        QMetaObject::invokeMethod(master, [this, master] { serve(master); }, Qt::QueuedConnection);
+    }
+}
+
+void ModbusConnections::waitUntilFetched(QAbstractSocket *master)
+{
+    connect(master, &QAbstractSocket::disconnected, this, [this, master] { drop(master); });
+    connect(master, &QAbstractSocket::bytesWritten, this, [this, master] {
+        if (master->bytesToWrite() > 0) {
+            return;
+        }
+        master->disconnect(this);
+        if (const qint64 waiting = master->bytesAvailable()) {
+            qCInfo(lcModbus) << "Modbus master" << master->peerAddress().toString()
+                             << "did not fetch its answer; the" << waiting
+                             << "bytes that it sent meanwhile are taken as one request.";
+        }
+        // Through the event loop, for this is the middle of a write.
+        QMetaObject::invokeMethod(master, [this, master] { serve(master); }, Qt::QueuedConnection);
+    });
+}
+
+void ModbusConnections::drop(QAbstractSocket *master)
+{
+    master->disconnect(this);
+    master->abort();
+    master->deleteLater();
+    --m_masters;
+    acceptFurther();
+}

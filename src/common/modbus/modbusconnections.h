@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QByteArray>
+#include <QTcpServer>
+#include <QTimer>
+
+class QAbstractSocket;
+class SocketWatch;
+
+// The connections of a Modbus server: lets masters in, reads what they send and drops those that are gone.
+//
+// Whatever one master does, the others get their turn: connections are accepted a few at a time, a master that
+// does not fetch its answers is not read from until it does, and as many descriptors as the rest of the program
+// needs stay free. Masters beyond that wait with the system.
+//
+// Sockets are this object's children and are deleted once their connection has ended. Everything happens on the
+// thread that owns the object.
+class ModbusConnections : public QTcpServer
+{
+    Q_OBJECT
+
+public:
+    explicit ModbusConnections(QObject *parent = nullptr);
+
+    // Listens on all addresses at the port; false if it cannot be bound.
+    bool start(quint16 port);
+    // Stops listening. Masters stay connected.
+    void stop();
+
+signals:
+    // What one read brought, 1 to 65536 bytes. The receiver answers at once or not at all.
+    void requestReceived(QAbstractSocket *master, const QByteArray &bytes);
+
+protected:
+    void incomingConnection(qintptr descriptor) override;
+
+private:
+    void startTurn();
+    void acceptFurther();
+    void scheduleRestart();
+    void restart();
+    void serve(QAbstractSocket *master);
+    void waitUntilFetched(QAbstractSocket *master);
+    void drop(QAbstractSocket *master);
+
+    SocketWatch *const m_watch;
+    const int m_maximumMasters;
+    int m_masters = 0;
+    int m_acceptedThisTurn = 0;
+    QByteArray m_buffer; // kept between requests for its memory
+    QTimer m_restartTimer;
+    quint16 m_port = 0;
+};

@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+// SPDX-License-Identifier: MIT
+
+// Masters that come, go, crowd and do not read, on a server that answers each request with a number of bytes.
+
+#include "common/helpers/networkhelper.h"
+#include "modbusclient.h"
+
+#include <QLoggingCategory>
+
+#include <sys/socket.h>
+
+namespace {
+
+const QByteArray request = "12345678"; // as hexadecimal digits: four bytes
+
+} // namespace
+
+class TestModbusConnections : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QLoggingCategory::setFilterRules("*.debug=false"_s); }
+    void init()
+    {
+        m_connections = new ModbusConnections(this);
+        connect(m_connections, &ModbusConnections::requestReceived, this, &TestModbusConnections::answer);
+        m_answer = "answer";
+        m_received.clear();
+        m_beforeAnswer = nullptr;
+        QVERIFY(m_connections->start(0));
+        m_timeouts = 0;
+    }
+
+    void cleanup() { delete m_connections; }
+
+    // Each sends before its connection is accepted. They are more than a turn of the event loop serves.
+    void crowd()
+    {
+        std::vector<std::unique_ptr<QTcpSocket>> masters(200);
+        for (auto &master : masters) {
+            master = std::make_unique<QTcpSocket>();
+            master->connectToHost("127.0.0.1"_s, port());
+            QVERIFY(master->waitForConnected());
+            master->write("x");
+            QVERIFY(master->waitForBytesWritten());
+        }
+        QTRY_COMPARE(m_received.size(), 200);
+        QTRY_COMPARE(masters.back()->bytesAvailable(), m_answer.size());
+        masters.clear();
+        QTRY_VERIFY(sockets().isEmpty());
+    }
+
+    // The descriptor of a master that left is the next one's.
+    void descriptorIsUsedAgain()
+    {
+        for (int round = 0; round < 3; ++round) {
+            ModbusClient master(port());
+            QCOMPARE(master.exchange(request, m_answer.size()), m_answer);
+            QCOMPARE(sockets().size(), 1);
+            master.abort();
+            QTRY_VERIFY(sockets().isEmpty());
+        }
+    }
+
+    void moreThanOneReadTakes()
+    {
+        ModbusClient master(port());
+        m_answer.clear();
+        const QByteArray bytes(300000, 'x');
+        master.write(bytes);
+        QTRY_COMPARE(m_received.join(), bytes);
+    }
+
+    // The one that is served first deletes the other, whose turn would be next.
+    void deletedWhileServed()
+    {
+        ModbusClient one(port());
+        ModbusClient other(port());
+        QTRY_COMPARE(sockets().size(), 2);
+        m_beforeAnswer = [this](QAbstractSocket *master) {
+            const auto all = sockets();
+            delete all.at(all.first() == master ? 1 : 0);
+        };
+        one.write("x");
+        other.write("x");
+        QVERIFY(one.flush() && other.flush());
+        QTRY_COMPARE(sockets().size(), 1);
+        m_beforeAnswer = nullptr;
+        ModbusClient third(port());
+        QCOMPARE(third.exchange(request, m_answer.size()), m_answer);
+        QCOMPARE(m_received.size(), 2);
+    }
+
+    void masterThatDoesNotRead_data()
+    {
+        QTest::addColumn<int>("answerSize");
+        QTest::newRow("short answers") << 500;
+        QTest::newRow("long answers") << 200000;
+    }
+    void masterThatDoesNotRead()
+    {
+        QFETCH(int, answerSize);
+        m_answer.fill('a', answerSize);
+        const int size = 4096;
+        QCOMPARE(setsockopt(static_cast<int>(m_connections->socketDescriptor()), SOL_SOCKET, SO_SNDBUF, &size, sizeof size), 0);
+        ModbusClient stuck(port(), size);
+        ModbusClient other(port());
+        int asked = 0;
+        for (bool isServed = true; isServed; ++asked) {
+            stuck.write("x");
+            (void)other.exchange(request, answerSize);
+            isServed = m_received.removeAll("x") > 0;
+        }
+        stuck.write("yz");
+        QCOMPARE(other.exchange(request, answerSize).size(), answerSize);
+        QCOMPARE(m_timeouts, 0);
+
+        // Fetching brings what was answered, then the answer to what waited meanwhile, as one request.
+        stuck.setReadBufferSize(0);
+        qint64 fetched = 0;
+        QTRY_COMPARE(fetched += stuck.readAll().size(), qint64{asked} * answerSize);
+        QCOMPARE(m_received.last(), QByteArray("xyz"));
+    }
+
+private:
+    void answer(QAbstractSocket *master, const QByteArray &bytes)
+    {
+        m_received += bytes;
+        if (m_beforeAnswer) {
+            m_beforeAnswer(master);
+        }
+        bool failed = false;
+        NetworkHelper::sendPacket(master, m_answer, &failed);
+        m_timeouts += failed ? 1 : 0;
+    }
+
+    QList<QAbstractSocket *> sockets() const { return m_connections->findChildren<QAbstractSocket *>(); }
+    quint16 port() const { return m_connections->serverPort(); }
+
+    ModbusConnections *m_connections = nullptr;
+    QByteArray m_answer;
+    QByteArrayList m_received;
+    std::function<void(QAbstractSocket *)> m_beforeAnswer;
+    int m_timeouts = 0;
+};
+
+QTEST_GUILESS_MAIN(TestModbusConnections)
+#include "tst_modbusconnections.moc"
