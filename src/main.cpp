@@ -5,6 +5,7 @@
 // be known before the application object exists, and a second instance ends before it opens anything.
 
 #include "common/helpers/loggingcategories.h"
+#include "common/helpers/logwriter.h"
 #include "common/helpers/systemhelper.h"
 #include "common/i18n/languagemanager.h"
 #include "common/orvet/orvetpeer.h"
@@ -228,5 +229,6 @@ int main(int argc, char *argv[])
     }
     window->setSerialNumber(SystemHelper::getIdentifier());
     window->show();
+    LogWriter::install();
     return QApplication::exec();
 }

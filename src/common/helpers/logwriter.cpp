@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+// SPDX-License-Identifier: MIT
+
+#include "common/helpers/logwriter.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QThread>
+
+#include <cstdio>
+
+#ifndef Q_OS_WIN
+
+namespace {
+
+// What is logged in one turn of the event loop up to this number is written at once: should the program crash, its
+// last lines are there.
+constexpr int linesWrittenAtOnce = 16;
+
+constexpr int maximumPending = 65536;
+
+// The main thread's; the other threads log too little to make a crowd.
+struct Turn
+{
+    int lines = 0;
+    QByteArray pending;
+};
+Q_GLOBAL_STATIC(Turn, turn)
+
+void writeToStandardError(const QByteArray &bytes)
+{
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
+    std::fflush(stderr);
+}
+
+void writePending()
+{
+    if (!turn->pending.isEmpty()) {
+        writeToStandardError(turn->pending);
+        turn->pending.clear();
+    }
+}
+
+void endTurn()
+{
+    writePending();
+    turn->lines = 0;
+}
+
+void writeMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    const QString text = qFormatLogMessage(type, context, message);
+    if (text.isNull()) { // as a message pattern may have it
+        return;
+    }
+    const QByteArray line = text.toLocal8Bit() + '\n';
+    const auto *application = QCoreApplication::instance();
+    if (!application || QThread::currentThread() != application->thread()) {
+        writeToStandardError(line);
+        return;
+    }
+    if (turn->lines++ == 0) {
+        QMetaObject::invokeMethod(QCoreApplication::instance(), endTurn, Qt::QueuedConnection);
+    }
+    turn->pending += line;
+    if (turn->lines <= linesWrittenAtOnce || turn->pending.size() >= maximumPending || type == QtFatalMsg) {
+        writePending();
+    }
+}
+
+} // namespace
+
+void LogWriter::install()
+{
+    qAddPostRoutine(writePending);
+    qInstallMessageHandler(writeMessage);
+}
+
+#else
+
+void LogWriter::install()
+{
+}
+
+#endif
