@@ -23,15 +23,19 @@ import time
 from dataclasses import dataclass
 from pathlib import Path
 
+import stalls
+
 PORT = 502
-READ, WRITE, TEXT = "code 3", "code 16", "code 103"
+READ, READ_MANY, WRITE, TEXT = "code 3", "code 3, 12 registers", "code 16", "code 103"
 REQUESTS = {
     READ: "0307f00002",  # the pressure, 5.0
+    READ_MANY: "0307d0000c",  # the alarm, all 0
     WRITE: "1007ec0002040014000a",  # the humidity, to a value of its own
     TEXT: "67f007",  # the pressure as text
 }
-STANDARD_ANSWERS = {READ: "0304000040a0", WRITE: "1007ec0002"}
-DEVICE_ANSWERS = {READ: "0304000040a0", WRITE: "10ec070200", TEXT: "6735"}  # code 16 echoes with bytes swapped
+ALARM = "0318" + 12 * "0000"
+STANDARD_ANSWERS = {READ: "0304000040a0", READ_MANY: ALARM, WRITE: "1007ec0002"}
+DEVICE_ANSWERS = {READ: "0304000040a0", READ_MANY: ALARM, WRITE: "10ec070200", TEXT: "6735"}  # code 16 echoes with bytes swapped
 STARTUP_LIMIT = 30
 
 
@@ -64,6 +68,7 @@ SCENARIOS = (
     Scenario("connect, ask, close", READ, ("--masters", "16", "--churn")),
     Scenario("1 beside 1000 idle", READ, ("--masters", "1", "--idle", "1000")),
     Scenario("64 writing", WRITE, ("--masters", "64")),
+    Scenario("64 reading 12 registers", READ_MANY, ("--masters", "64")),
     Scenario("64 reading texts", TEXT, ("--masters", "64")),
 )
 
@@ -230,6 +235,31 @@ def scenario_table(bench, cells):
     return markdown_table(header, rows)
 
 
+# --- fairness and stalls ----------------------------------------------------------------------------------------
+
+
+def fairness_table(bench, seconds):
+    crowds = (20, 200, 1000)
+    rows = []
+    for server in bench.servers:
+        row = [server.name]
+        for masters in crowds:
+            with bench.running(server) as (pid, _):
+                load = ("--masters", masters, "--seconds", seconds)
+                row.append(f"{bench.load(server, READ, pid, load)['best_to_worst']:.2f}")
+        rows.append(row)
+    return markdown_table(["", *(f"{masters} masters" for masters in crowds)], rows)
+
+
+def stall_table(bench, seconds):
+    rows = []
+    for neighbour in stalls.NEIGHBOURS:
+        with bench.running(bench.simulator):
+            answers, longest = stalls.measure(neighbour, seconds)
+            rows.append([neighbour, f"{answers / seconds:.0f}", f"{longest:.1f}"])
+    return markdown_table(["neighbours", "answers a second", "longest wait, ms"], rows)
+
+
 # --- footprint --------------------------------------------------------------------------------------------------
 
 
@@ -339,6 +369,12 @@ def report(bench, arguments):
         "Load generator and server take turns here, so that the shares follow from CPU time alone and hardly vary. With a "
         "core for each, the faster server finds the generator always awake and need not wake it, which costs the others.",
         share_table(bench, results_on_one_core),
+        "## Fairness",
+        "Answers to the master that got most, divided by answers to the one that got fewest, in closed loop.",
+        fairness_table(bench, 0.5 if arguments.quick else 3),
+        "## Beside masters that do not behave",
+        "A good master asks every 10 ms beside others whose receive buffers hold 4 kB.",
+        stall_table(bench, 3 if arguments.quick else 20),
         "## Start-up, memory, idle load",
         footprint_table(bench, arguments.quick),
         "## Inside the program",

@@ -18,6 +18,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <chrono>
@@ -55,6 +56,7 @@ struct Master
 {
     int descriptor = -1;
     std::uint16_t transaction = 0;
+    std::uint64_t answered = 0; // since the load began
     std::size_t received = 0;
     Clock::time_point asked;
     std::array<std::uint8_t, 512> buffer = {};
@@ -174,14 +176,24 @@ public:
         const auto requests = static_cast<double>(m_latencies.count());
         std::printf("{\"requests\": %" PRIu64 ", \"seconds\": %.3f, \"requests_per_second\": %.1f, "
                     "\"p50_us\": %.1f, \"p99_us\": %.1f, \"p999_us\": %.1f, \"max_us\": %.1f, "
-                    "\"server_cpu_us\": %.2f, \"generator_cpu_share\": %.2f}\n",
+                    "\"best_to_worst\": %.2f, \"server_cpu_us\": %.2f, \"generator_cpu_share\": %.2f}\n",
                     m_latencies.count(), m_seconds, requests / m_seconds,
                     microseconds(m_latencies.quantile(0.5)), microseconds(m_latencies.quantile(0.99)),
                     microseconds(m_latencies.quantile(0.999)), microseconds(m_latencies.maximum()),
-                    m_serverCpu * 1e6 / requests, m_ownCpu / m_seconds);
+                    bestToWorst(), m_serverCpu * 1e6 / requests, m_ownCpu / m_seconds);
     }
 
 private:
+    // Answers to the master that got most, divided by those to the one that got fewest.
+    double bestToWorst() const
+    {
+        const auto [worst, best] =
+            std::minmax_element(m_masters.begin(), m_masters.end(), [](const Master &one, const Master &other) {
+                return one.answered < other.answered;
+            });
+        return static_cast<double>(best->answered) / static_cast<double>(worst->answered);
+    }
+
     // Every connection is served once before the load begins. This also keeps the accept queue short, whose
     // overflow would cost a second for each connection.
     void introduceMasters()
@@ -209,6 +221,7 @@ private:
         std::uint64_t asked = 0;
         std::uint64_t answered = 0;
         for (Master &master : m_masters) {
+            master.answered = 0;
             next(master);
             ++asked;
         }
@@ -222,6 +235,7 @@ private:
                     continue;
                 }
                 ++answered;
+                ++master.answered;
                 if (asking && asked < requests) {
                     next(master);
                     ++asked;

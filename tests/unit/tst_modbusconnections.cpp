@@ -8,6 +8,11 @@
 
 #include <QLoggingCategory>
 
+#include <array>
+#include <functional>
+#include <memory>
+#include <vector>
+
 #include <sys/socket.h>
 
 namespace {
@@ -24,7 +29,7 @@ private slots:
     void initTestCase() { QLoggingCategory::setFilterRules("*.debug=false"_s); }
     void init()
     {
-        m_connections = new ModbusConnections(this);
+        m_connections = new ModbusConnections([](const QByteArray &bytes) { return bytes == "long"; }, this);
         connect(m_connections, &ModbusConnections::requestReceived, this, &TestModbusConnections::answer);
         m_answer = "answer";
         m_received.clear();
@@ -62,6 +67,30 @@ private slots:
             master.abort();
             QTRY_VERIFY(sockets().isEmpty());
         }
+    }
+
+    // Long requests of three masters wait for a turn each, and what these send next waits behind them.
+    void longRequestsComeLast()
+    {
+        std::array<ModbusClient, 4> masters{ModbusClient(port()), ModbusClient(port()), ModbusClient(port()), ModbusClient(port())};
+        QTRY_COMPARE(sockets().size(), 4);
+        const auto send = [&](std::size_t master, const char *bytes) {
+            masters.at(master).write(bytes);
+            QVERIFY(masters.at(master).flush());
+        };
+        for (std::size_t master : {0, 1, 2}) {
+            send(master, "long");
+        }
+        send(3, "short");
+        m_beforeAnswer = [&](QAbstractSocket *) {
+            for (std::size_t master = 0; m_received.size() == 2 && master < masters.size(); ++master) {
+                send(master, master == 3 ? "another" : "next");
+            }
+        };
+        QTRY_COMPARE(m_received.size(), 8);
+        QCOMPARE(m_received.mid(0, 2), (QByteArrayList{"short", "long"}));
+        QVERIFY(m_received.indexOf("another") < m_received.indexOf("long", 2));
+        QCOMPARE(m_received.count("next"), 3);
     }
 
     void moreThanOneReadTakes()

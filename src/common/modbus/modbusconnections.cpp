@@ -9,7 +9,6 @@
 #include "common/modbus/socketwatch.h"
 
 #include <QHostAddress>
-#include <QPointer>
 
 #include <algorithm>
 
@@ -28,14 +27,16 @@ constexpr int reservedDescriptors = 48;
 
 } // namespace
 
-ModbusConnections::ModbusConnections(QObject *parent)
-    : QTcpServer(parent), m_watch(new SocketWatch(this)),
+ModbusConnections::ModbusConnections(const Predicate &takesLong, QObject *parent)
+    : QTcpServer(parent), m_takesLong(takesLong), m_watch(new SocketWatch(this)),
       m_maximumMasters(std::max(1, SystemHelper::maximumDescriptors() - reservedDescriptors))
 {
     m_buffer.reserve(readSize);
     m_restartTimer.setSingleShot(true);
     connect(&m_restartTimer, &QTimer::timeout, this, &ModbusConnections::restart);
     connect(this, &QTcpServer::acceptError, this, &ModbusConnections::scheduleRestart);
+    m_longRequestTimer.setSingleShot(true);
+    connect(&m_longRequestTimer, &QTimer::timeout, this, &ModbusConnections::handOverLongRequest);
     connect(m_watch, &SocketWatch::ready, this, &ModbusConnections::serve);
 }
 
@@ -124,7 +125,7 @@ void ModbusConnections::serve(QAbstractSocket *master)
 {
     // A master that does not fetch its answer has to wait with its next request: otherwise all of them would
     // pile up here.
-    if (!master->isValid() || master->bytesToWrite() > 0) {
+    if (!master->isValid() || master->bytesToWrite() > 0 || isWaiting(master)) {
         return;
     }
     m_buffer.resize(readSize);
@@ -133,22 +134,44 @@ void ModbusConnections::serve(QAbstractSocket *master)
         drop(master);
         return;
     }
-    if (size == 0) {
-        return;
-    }
     m_buffer.resize(static_cast<int>(size));
-    // A receiver may run an event loop, in which the buffer is used again and the master goes.
-    const QPointer<QAbstractSocket> guard(master);
-    emit requestReceived(master, QByteArray(m_buffer));
-    if (!guard) {
-        return;
+    if (size == readSize) {
+        m_watch->lookAgain(master);
     }
-    if (!master->isValid()) {
+    if (size > 0 && m_takesLong(m_buffer)) {
+        m_longRequests.enqueue({master, m_buffer});
+        m_longRequestTimer.start();
+    } else if (size > 0) {
+        handOver(master, QByteArray(m_buffer)); // a copy, as a receiver may run an event loop
+    }
+}
+
+bool ModbusConnections::isWaiting(const QAbstractSocket *master) const
+{
+    return std::any_of(m_longRequests.cbegin(), m_longRequests.cend(),
+                       [master](const LongRequest &request) { return request.master == master; });
+}
+
+void ModbusConnections::handOverLongRequest()
+{
+    const LongRequest request = m_longRequests.dequeue();
+    if (!m_longRequests.isEmpty()) {
+        m_longRequestTimer.start();
+    }
+    if (request.master && request.master->isValid()) {
+        m_watch->lookAgain(request.master);
+        handOver(request.master, request.bytes);
+    }
+}
+
+void ModbusConnections::handOver(QAbstractSocket *master, const QByteArray &bytes)
+{
+    const QPointer<QAbstractSocket> guard(master); // in a receiver's event loop the master may go
+    emit requestReceived(master, bytes);
+    if (guard && !master->isValid()) {
         drop(master);
-    } else if (master->bytesToWrite() > 0) {
+    } else if (guard && master->bytesToWrite() > 0) {
         waitUntilFetched(master);
-    } else if (size == readSize) {
-        QMetaObject::invokeMethod(master, [this, master] { serve(master); }, Qt::QueuedConnection);
     }
 }
 
@@ -165,8 +188,7 @@ void ModbusConnections::waitUntilFetched(QAbstractSocket *master)
                              << "did not fetch its answer; the" << waiting
                              << "bytes that it sent meanwhile are taken as one request.";
         }
-        // Through the event loop, for this is the middle of a write.
-        QMetaObject::invokeMethod(master, [this, master] { serve(master); }, Qt::QueuedConnection);
+        m_watch->lookAgain(master);
     });
 }
 

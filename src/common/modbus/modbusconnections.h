@@ -3,18 +3,22 @@
 
 #pragma once
 
+#include <QAbstractSocket>
 #include <QByteArray>
+#include <QPointer>
+#include <QQueue>
 #include <QTcpServer>
 #include <QTimer>
 
-class QAbstractSocket;
+#include <functional>
+
 class SocketWatch;
 
 // The connections of a Modbus server: lets masters in, reads what they send and drops those that are gone.
 //
-// Whatever one master does, the others get their turn: connections are accepted a few at a time, a master that
-// does not fetch its answers is not read from until it does, and as many descriptors as the rest of the program
-// needs stay free. Masters beyond that wait with the system.
+// Whatever one master does, the others get their turn: connections are accepted a few at a time, requests that take
+// long are answered one at a time, a master that does not fetch its answers is not read from until it does, and as
+// many descriptors as the rest of the program needs stay free. Masters beyond that wait with the system.
 //
 // Sockets are this object's children and are deleted once their connection has ended. Everything happens on the
 // thread that owns the object.
@@ -23,7 +27,10 @@ class ModbusConnections : public QTcpServer
     Q_OBJECT
 
 public:
-    explicit ModbusConnections(QObject *parent = nullptr);
+    using Predicate = std::function<bool(const QByteArray &bytes)>;
+
+    // Requests that take long are handed over after all others, one in each turn of the event loop.
+    explicit ModbusConnections(const Predicate &takesLong, QObject *parent = nullptr);
 
     // Listens on all addresses at the port; false if it cannot be bound.
     bool start(quint16 port);
@@ -43,9 +50,21 @@ private:
     void scheduleRestart();
     void restart();
     void serve(QAbstractSocket *master);
+    bool isWaiting(const QAbstractSocket *master) const;
+    void handOverLongRequest();
+    void handOver(QAbstractSocket *master, const QByteArray &bytes);
     void waitUntilFetched(QAbstractSocket *master);
     void drop(QAbstractSocket *master);
 
+    struct LongRequest
+    {
+        QPointer<QAbstractSocket> master;
+        QByteArray bytes;
+    };
+
+    const Predicate m_takesLong;
+    QQueue<LongRequest> m_longRequests; // one of each master at the most
+    QTimer m_longRequestTimer;
     SocketWatch *const m_watch;
     const int m_maximumMasters;
     int m_masters = 0;

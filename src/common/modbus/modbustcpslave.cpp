@@ -36,6 +36,17 @@ RegisterRange registerRange(const TcpApplicationDataUnit &request)
     return {qFromBigEndian<quint16>(fields.constData()), qFromBigEndian<quint16>(fields.constData() + 2)};
 }
 
+// More registers than the 125 that the Modbus standard allows: up to 65,535, each with a warning if it was never set.
+bool isLongRead(const QByteArray &bytes)
+{
+    constexpr int standardLimit = 125;
+    constexpr int functionCodeOffset = TcpApplicationDataUnit::minimumSize - 1;
+    constexpr int countOffset = TcpApplicationDataUnit::minimumSize + 2;
+    return bytes.size() >= TcpApplicationDataUnit::minimumSize + rangeSize
+        && bytes.at(functionCodeOffset) == ReadHoldingRegisters
+        && qFromBigEndian<quint16>(bytes.constData() + countOffset) > standardLimit;
+}
+
 } // namespace
 
 ModbusTcpSlave::ModbusTcpSlave(QObject *parent) : ModbusTcpSlave(new ModbusTcpSlavePrivate, parent)
@@ -87,7 +98,7 @@ void ModbusTcpSlavePrivate::init(ModbusTcpSlave *slave)
 {
     q = slave;
     setParent(slave);
-    m_connections = new ModbusConnections(this);
+    m_connections = new ModbusConnections(isLongRead, this);
     // Blanks in a signature would cost Qt a normalisation.
     // clang-format off
     connect(m_connections, SIGNAL(requestReceived(QAbstractSocket*,QByteArray)),

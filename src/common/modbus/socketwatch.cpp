@@ -23,6 +23,7 @@
 
 namespace {
 
+constexpr int lookAgainMs = 1;
 constexpr int roomRetryMs = 20;
 
 #ifdef Q_OS_LINUX
@@ -43,16 +44,9 @@ bool hasRoomForAnswer(const QAbstractSocket &socket)
 
 } // namespace
 
-void SocketWatch::add(QAbstractSocket *socket)
-{
-    if (!addToEpoll(socket)) {
-        connect(socket, &QAbstractSocket::readyRead, this, [this, socket] { announce(socket); });
-    }
-}
-
 void SocketWatch::announce(QAbstractSocket *socket)
 {
-    if (hasRoomForAnswer(*socket)) {
+    if (!socket->isValid() || hasRoomForAnswer(*socket)) {
         emit ready(socket);
     } else {
         QTimer::singleShot(roomRetryMs, socket, [this, socket] { announce(socket); });
@@ -76,16 +70,12 @@ SocketWatch::~SocketWatch()
     }
 }
 
-// Edge-triggered: a socket whose data is left alone for a while is not reported again and again. The system
-// reports both directions whenever one of them changes.
-bool SocketWatch::addToEpoll(QAbstractSocket *socket)
+void SocketWatch::add(QAbstractSocket *socket)
 {
     const auto descriptor = static_cast<int>(socket->socketDescriptor());
-    epoll_event event = {};
-    event.events = EPOLLIN | EPOLLOUT | EPOLLET;
-    event.data.fd = descriptor;
-    if (epoll_ctl(m_epoll, EPOLL_CTL_ADD, descriptor, &event) != 0) {
-        return false;
+    if (!control(EPOLL_CTL_ADD, descriptor)) {
+        connect(socket, &QAbstractSocket::readyRead, this, [this, socket] { announce(socket); });
+        return;
     }
     m_sockets.insert(descriptor, socket);
     // The socket keeps its notifier, enabled, so it has no reason to touch it; Qt's loop no longer knows it.
@@ -95,7 +85,23 @@ bool SocketWatch::addToEpoll(QAbstractSocket *socket)
             QAbstractEventDispatcher::instance()->unregisterSocketNotifier(notifier);
         }
     }
-    return true;
+}
+
+void SocketWatch::lookAgain(QAbstractSocket *socket)
+{
+    if (!control(EPOLL_CTL_MOD, static_cast<int>(socket->socketDescriptor()))) {
+        QTimer::singleShot(lookAgainMs, socket, [this, socket] { announce(socket); });
+    }
+}
+
+// Edge-triggered: a socket whose data is left alone for a while is not reported again and again. The system
+// reports both directions whenever one of them changes, and when it is told the same once more.
+bool SocketWatch::control(int operation, int descriptor) const
+{
+    epoll_event event = {};
+    event.events = EPOLLIN | EPOLLOUT | EPOLLET;
+    event.data.fd = descriptor;
+    return epoll_ctl(m_epoll, operation, descriptor, &event) == 0;
 }
 
 void SocketWatch::deliver()
@@ -117,20 +123,20 @@ void SocketWatch::deliver()
 
 #else
 
-SocketWatch::SocketWatch(QObject *parent) : QObject(parent), m_epoll(-1)
+SocketWatch::SocketWatch(QObject *parent) : QObject(parent)
 {
 }
 
 SocketWatch::~SocketWatch() = default;
 
-bool SocketWatch::addToEpoll(QAbstractSocket *socket)
+void SocketWatch::add(QAbstractSocket *socket)
 {
-    Q_UNUSED(socket)
-    return false;
+    connect(socket, &QAbstractSocket::readyRead, this, [this, socket] { announce(socket); });
 }
 
-void SocketWatch::deliver()
+void SocketWatch::lookAgain(QAbstractSocket *socket)
 {
+    QTimer::singleShot(lookAgainMs, socket, [this, socket] { announce(socket); });
 }
 
 #endif

@@ -27,16 +27,21 @@ public:
     // Takes a connected, unbuffered socket, until it closes.
     void add(QAbstractSocket *socket);
 
+    // Announces the socket once more, in a later turn of the event loop, if there is still something to read.
+    void lookAgain(QAbstractSocket *socket);
+
 signals:
     // Something has arrived, be it the end of the connection, and an answer would be taken at once. Emitted once
     // for what has arrived, whether the receiver reads it or not.
     void ready(QAbstractSocket *socket);
 
 private:
-    bool addToEpoll(QAbstractSocket *socket);
-    void deliver();
     void announce(QAbstractSocket *socket);
+#ifdef Q_OS_LINUX
+    bool control(int operation, int descriptor) const;
+    void deliver();
 
     const int m_epoll;
     QHash<int, QPointer<QAbstractSocket>> m_sockets; // by descriptor
+#endif
 };
