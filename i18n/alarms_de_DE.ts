@@ -9,11 +9,11 @@
     </message>
     <message>
         <source>0x3067fb9f</source>
-        <translation>Ein Teil des Geräts fehlt noch</translation>
+        <translation>Ein Teil des Geräts fehlt noch.</translation>
     </message>
     <message>
         <source>0x3067fba2</source>
-        <translation>Abdeckung der Eingabeeinheit offen</translation>
+        <translation>Abdeckung der Eingabeeinheit offen.</translation>
     </message>
     <message>
         <source>0x3101000f</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>0x31010014</source>
-        <translation>Versorgungsspannung außerhalb des zulässigen Bereichs.</translation>
+        <translation>Versorgungsspannung außerhalb der Toleranz.</translation>
     </message>
     <message>
         <source>0x31020007</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>0x31040004</source>
-        <translation>Störung des Drucksensors. Kundendienst rufen.</translation>
+        <translation>Drucksensor gestört. Kundendienst rufen.</translation>
     </message>
     <message>
         <source>0x31040007</source>
@@ -89,23 +89,23 @@
     </message>
     <message>
         <source>0x311c0006</source>
-        <translation>Absaugung blockiert. Saugleitungen prüfen.</translation>
+        <translation>Saugmaschine blockiert. Saugleitungen prüfen.</translation>
     </message>
     <message>
         <source>0x311c000b</source>
-        <translation>Absaugung: Unterdruck zu hoch.</translation>
+        <translation>Saugmaschine: Unterdruck zu hoch.</translation>
     </message>
     <message>
         <source>0x311c000c</source>
-        <translation>Absaugung: Unterdruck zu niedrig.</translation>
+        <translation>Saugmaschine: Unterdruck zu niedrig.</translation>
     </message>
     <message>
         <source>0x311c000f</source>
-        <translation>Absaugung: Messwert des Unterdrucks unplausibel.</translation>
+        <translation>Saugmaschine: Messwert des Unterdrucks unplausibel.</translation>
     </message>
     <message>
         <source>0x311c0011</source>
-        <translation>Absaugung zu heiß. Abkühlen lassen.</translation>
+        <translation>Saugmaschine zu heiß. Abkühlen lassen.</translation>
     </message>
     <message>
         <source>0x3204000a</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>0x3204000f</source>
-        <translation>Sterilisation fehlgeschlagen: Temperatur und Druck passen nicht zusammen.</translation>
+        <translation>Sterilisation fehlgeschlagen: Temperatur und Druck unstimmig.</translation>
     </message>
     <message>
         <source>0x32040017</source>
@@ -149,11 +149,11 @@
     </message>
     <message>
         <source>0x3215000f</source>
-        <translation>Speicherfolienscanner: Laserleistung weicht ab. Kundendienst rufen.</translation>
+        <translation>Speicherfolienscanner: Laserabweichung. Kundendienst rufen.</translation>
     </message>
     <message>
         <source>0x32150017</source>
-        <translation>Speicherfolienscanner: Scan nicht rechtzeitig abgeschlossen.</translation>
+        <translation>Speicherfolienscanner: Scan nicht rechtzeitig beendet.</translation>
     </message>
     <message>
         <source>0x321b001e</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>0x321c000f</source>
-        <translation>Absaugung: Durchflusstest fehlgeschlagen.</translation>
+        <translation>Saugmaschine: Durchflusstest fehlgeschlagen.</translation>
     </message>
     <message>
         <source>0x321f0022</source>
@@ -185,11 +185,11 @@
     </message>
     <message>
         <source>0x32268010</source>
-        <translation>Quillon Pulse: Verbindung konnte nicht hergestellt werden.</translation>
+        <translation>Quillon Pulse: Verbindung fehlgeschlagen.</translation>
     </message>
     <message>
         <source>0x32278010</source>
-        <translation>Quillon Pulse: Registrierung fehlgeschlagen. Der Server hat die Zugangsdaten abgelehnt. Netzwerkeinstellungen und Registrierungscode prüfen, dann den Assistenten erneut starten.</translation>
+        <translation>Quillon Pulse: Registrierung abgelehnt. Netz und Code prüfen.</translation>
     </message>
     <message>
         <source>0x322d0011</source>
@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>0x322e0023</source>
-        <translation>Wartungsintervall überschritten. Das Gerät darf erst wieder benutzt werden, wenn die Wartung durchgeführt und von einem autorisierten Techniker bestätigt wurde.</translation>
+        <translation>Wartungsintervall überschritten. Erst nach Wartung benutzen.</translation>
     </message>
     <message>
         <source>0x322f0009</source>
@@ -237,7 +237,7 @@
     </message>
     <message>
         <source>0x4068d8e5</source>
-        <translation>Transportsystem muss gewartet werden</translation>
+        <translation>Transportsystem muss gewartet werden.</translation>
     </message>
     <message>
         <source>0x41010011</source>
@@ -273,23 +273,23 @@
     </message>
     <message>
         <source>0x410f000c</source>
-        <translation>Druckluft: Druck niedrig. Leitungen auf Undichtigkeit prüfen.</translation>
+        <translation>Druckluft: Druck niedrig. Leitungen auf Leckagen prüfen.</translation>
     </message>
     <message>
         <source>0x41120007</source>
-        <translation>Kein Signal vom Feuchtesensor der Trocknung.</translation>
+        <translation>Kein Signal vom Feuchtesensor des Trockners.</translation>
     </message>
     <message>
         <source>0x411c0011</source>
-        <translation>Absaugung: Temperatur hoch.</translation>
+        <translation>Saugmaschine: Temperatur hoch.</translation>
     </message>
     <message>
         <source>0x4122000b</source>
-        <translation>Laufzeit des Kompressors hoch.</translation>
+        <translation>Kompressorlaufzeit hoch.</translation>
     </message>
     <message>
         <source>0x41230013</source>
-        <translation>Trocknung regeneriert zu häufig.</translation>
+        <translation>Trockner regeneriert zu häufig.</translation>
     </message>
     <message>
         <source>0x4201000a</source>
@@ -313,15 +313,15 @@
     </message>
     <message>
         <source>0x420c0010</source>
-        <translation>Wartung überfällig. Termin mit dem Kundendienst vereinbaren.</translation>
+        <translation>Wartung überfällig. Wartungstermin vereinbaren.</translation>
     </message>
     <message>
         <source>0x4211001b</source>
-        <translation>Einstellungen auf Werkseinstellungen zurückgesetzt</translation>
+        <translation>Werkseinstellungen wiederhergestellt.</translation>
     </message>
     <message>
         <source>0x42140022</source>
-        <translation>Export der Berichte fehlgeschlagen. Zielordner prüfen.</translation>
+        <translation>Berichtsexport fehlgeschlagen. Zielordner prüfen.</translation>
     </message>
     <message>
         <source>0x42190022</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>0x4402001d</source>
-        <translation>Vorrat an Desinfektionsmittel für die Absaugung fehlt. Neue Flasche einsetzen.</translation>
+        <translation>Desinfektionsmittel der Sauganlage fehlt. Flasche einsetzen.</translation>
     </message>
     <message>
         <source>0x4403001f</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>0x44060012</source>
-        <translation>Einwirkzeit unterbrochen</translation>
+        <translation>Einwirkzeit unterbrochen.</translation>
     </message>
     <message>
         <source>0x45000004</source>
@@ -385,11 +385,11 @@
     </message>
     <message>
         <source>0x48240101</source>
-        <translation>Der Gerätekopf hat ein ungültiges Format.</translation>
+        <translation>Der Geräte-Header hat ein ungültiges Format.</translation>
     </message>
     <message>
         <source>0x48240102</source>
-        <translation>Der Gerätekopf enthält keine REF oder DEV_SN.</translation>
+        <translation>Der Geräte-Header enthält weder REF noch DEV_SN.</translation>
     </message>
     <message>
         <source>0x48240103</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>0x48240200</source>
-        <translation>Die hochgeladene Datei wurde mit einer neueren Softwareversion erstellt und kann nicht verarbeitet werden. Gerätesoftware aktualisieren und Datenimport wiederholen.</translation>
+        <translation>Dateiversion zu neu. Gerätesoftware aktualisieren.</translation>
     </message>
     <message>
         <source>0x48250025</source>
@@ -421,11 +421,11 @@
     </message>
     <message>
         <source>0x5122000B</source>
-        <translation>Laufzeit des Kompressors sehr hoch. System prüfen</translation>
+        <translation>Kompressorlaufzeit sehr hoch. System prüfen.</translation>
     </message>
     <message>
         <source>0x51230013</source>
-        <translation>Regeneration der Trocknung neu gestartet.</translation>
+        <translation>Regeneration des Trockners neu gestartet.</translation>
     </message>
     <message>
         <source>0x52048009</source>
@@ -461,27 +461,27 @@
     </message>
     <message>
         <source>0x52100023</source>
-        <translation>Kalender: Termin heute fällig.</translation>
+        <translation>Kalender: heute steht ein Termin an.</translation>
     </message>
     <message>
         <source>0x52118003</source>
-        <translation>Einstellungen geändert</translation>
+        <translation>Einstellungen geändert.</translation>
     </message>
     <message>
         <source>0x52148001</source>
-        <translation>Export der Berichte gestartet.</translation>
+        <translation>Berichtsexport gestartet.</translation>
     </message>
     <message>
         <source>0x52148006</source>
-        <translation>Export der Berichte abgeschlossen.</translation>
+        <translation>Berichtsexport abgeschlossen.</translation>
     </message>
     <message>
         <source>0x5214800a</source>
-        <translation>Export der Berichte verschoben: Zielordner nicht erreichbar.</translation>
+        <translation>Berichtsexport verschoben: Zielordner nicht erreichbar.</translation>
     </message>
     <message>
         <source>0x52148010</source>
-        <translation>Export der Berichte abgebrochen.</translation>
+        <translation>Berichtsexport abgebrochen.</translation>
     </message>
     <message>
         <source>0x521d8012</source>
@@ -517,7 +517,7 @@
     </message>
     <message>
         <source>0x5305000b</source>
-        <translation>Leitfähigkeit des Wassers erhöht</translation>
+        <translation>Leitfähigkeit des Wassers erhöht.</translation>
     </message>
     <message>
         <source>0x54060020</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>0x621a800d</source>
-        <translation>Benutzer angemeldet</translation>
+        <translation>Benutzer angemeldet.</translation>
     </message>
     <message>
         <source>0x62208006</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>0x68258010</source>
-        <translation>Assistent wurde abgebrochen: Die Einrichtung von Quillon Pulse mit dem Assistenten wurde nicht abgeschlossen.</translation>
+        <translation>Assistent abgebrochen: Quillon Pulse nicht eingerichtet.</translation>
     </message>
     <message>
         <source>0x95000005</source>

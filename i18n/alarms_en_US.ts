@@ -125,15 +125,15 @@
     </message>
     <message>
         <source>0x32080007</source>
-        <translation>No connection to the display.</translation>
+        <translation>No connection to display.</translation>
     </message>
     <message>
         <source>0x32090007</source>
-        <translation>No connection to the amalgam separator.</translation>
+        <translation>No connection to amalgam separator.</translation>
     </message>
     <message>
         <source>0x320d001f</source>
-        <translation>Amalgam separator: collecting container full. Replace container.</translation>
+        <translation>Amalgam separator: collecting container full. Replace it.</translation>
     </message>
     <message>
         <source>0x320e0022</source>
@@ -185,11 +185,11 @@
     </message>
     <message>
         <source>0x32268010</source>
-        <translation>Quillon Pulse: connection could not be established.</translation>
+        <translation>Quillon Pulse: connection failed.</translation>
     </message>
     <message>
         <source>0x32278010</source>
-        <translation>Quillon Pulse: registration failed. The server refused the access data. Check the network settings and the registration code, then start the wizard again.</translation>
+        <translation>Quillon Pulse: registration failed. Check network and code.</translation>
     </message>
     <message>
         <source>0x322d0011</source>
@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>0x322e0023</source>
-        <translation>Maintenance interval exceeded. The device may only be used again after maintenance has been carried out and confirmed by an authorized technician.</translation>
+        <translation>Maintenance interval exceeded. Do not use until serviced.</translation>
     </message>
     <message>
         <source>0x322f0009</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>0x41120007</source>
-        <translation>No signal from humidity sensor of drying unit.</translation>
+        <translation>No signal from dryer humidity sensor.</translation>
     </message>
     <message>
         <source>0x411c0011</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>0x41230013</source>
-        <translation>Drying unit regenerates too often.</translation>
+        <translation>Dryer regenerates too often.</translation>
     </message>
     <message>
         <source>0x4201000a</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>0x420c0010</source>
-        <translation>Maintenance overdue. Arrange appointment with service.</translation>
+        <translation>Maintenance overdue. Arrange service visit.</translation>
     </message>
     <message>
         <source>0x4211001b</source>
-        <translation>Settings reset to factory defaults</translation>
+        <translation>Settings reset to factory defaults.</translation>
     </message>
     <message>
         <source>0x42140022</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>0x4402001d</source>
-        <translation>Supply of suction disinfectant is missing. Insert new bottle.</translation>
+        <translation>Supply of suction disinfectant missing. Insert new bottle.</translation>
     </message>
     <message>
         <source>0x4403001f</source>
@@ -389,11 +389,11 @@
     </message>
     <message>
         <source>0x48240102</source>
-        <translation>The device header does not contain a REF of DEV_SN.</translation>
+        <translation>The device header contains neither REF nor DEV_SN.</translation>
     </message>
     <message>
         <source>0x48240103</source>
-        <translation>The REF of DEV_SN does not match with the device.</translation>
+        <translation>The REF or DEV_SN does not match the device.</translation>
     </message>
     <message>
         <source>0x48240104</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>0x48240200</source>
-        <translation>The uploaded file was created with a newer software version and cannot be processed. Update the device software and repeat the data import.</translation>
+        <translation>Uploaded file needs newer software. Update the device.</translation>
     </message>
     <message>
         <source>0x48250025</source>
@@ -425,7 +425,7 @@
     </message>
     <message>
         <source>0x51230013</source>
-        <translation>Regeneration of drying unit restarted.</translation>
+        <translation>Dryer regeneration restarted.</translation>
     </message>
     <message>
         <source>0x52048009</source>
@@ -461,11 +461,11 @@
     </message>
     <message>
         <source>0x52100023</source>
-        <translation>Calendar: appointment due today.</translation>
+        <translation>Calendar: appointment today.</translation>
     </message>
     <message>
         <source>0x52118003</source>
-        <translation>Settings changed</translation>
+        <translation>Settings changed.</translation>
     </message>
     <message>
         <source>0x52148001</source>
@@ -517,7 +517,7 @@
     </message>
     <message>
         <source>0x5305000b</source>
-        <translation>Water conductivity increased</translation>
+        <translation>Water conductivity high.</translation>
     </message>
     <message>
         <source>0x54060020</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>0x621a800d</source>
-        <translation>User logged in</translation>
+        <translation>User logged in.</translation>
     </message>
     <message>
         <source>0x62208006</source>
@@ -577,7 +577,7 @@
     </message>
     <message>
         <source>0x64078001</source>
-        <translation>Rinsing of waterlines started.</translation>
+        <translation>Waterline flushing started.</translation>
     </message>
     <message>
         <source>0x6801001b</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>0x95000005</source>
-        <translation>Input sensor occupied for too long?</translation>
+        <translation>Input sensor blocked for too long?</translation>
     </message>
 </context>
 </TS>

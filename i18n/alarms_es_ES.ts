@@ -9,15 +9,15 @@
     </message>
     <message>
         <source>0x3067fb9f</source>
-        <translation>Todavía falta una parte del equipo</translation>
+        <translation>Todavía falta una parte del equipo.</translation>
     </message>
     <message>
         <source>0x3067fba2</source>
-        <translation>Cubierta de la unidad de entrada abierta</translation>
+        <translation>Cubierta de la unidad de entrada abierta.</translation>
     </message>
     <message>
         <source>0x3101000f</source>
-        <translation>Electrónica de control defectuosa. Avisar al servicio técnico.</translation>
+        <translation>Electrónica de control defectuosa. Avisar al SAT.</translation>
     </message>
     <message>
         <source>0x31010011</source>
@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>0x3102000C</source>
-        <translation>Corriente del motor demasiado baja, comprobar el motor.</translation>
+        <translation>Corriente del motor demasiado baja, revisar el motor.</translation>
     </message>
     <message>
         <source>0x3102000b</source>
@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>0x3102001a</source>
-        <translation>El funcionamiento de emergencia del motor ha fallado. Avisar al servicio técnico.</translation>
+        <translation>Marcha de emergencia del motor fallida. Avisar al SAT.</translation>
     </message>
     <message>
         <source>0x31020022</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>0x31040004</source>
-        <translation>Fallo del sensor de presión. Avisar al servicio técnico.</translation>
+        <translation>Fallo del sensor de presión. Avisar al SAT.</translation>
     </message>
     <message>
         <source>0x31040007</source>
@@ -81,31 +81,31 @@
     </message>
     <message>
         <source>0x3104000b</source>
-        <translation>Aire comprimido: presión demasiado alta. Equipo desconectado.</translation>
+        <translation>Presión de aire demasiado alta. Equipo apagado.</translation>
     </message>
     <message>
         <source>0x310f000c</source>
-        <translation>Aire comprimido: presión demasiado baja. Tratamiento no posible.</translation>
+        <translation>Presión de aire demasiado baja. Tratamiento imposible.</translation>
     </message>
     <message>
         <source>0x311c0006</source>
-        <translation>Aspiración obstruida. Comprobar las tuberías de aspiración.</translation>
+        <translation>Unidad de aspiración obstruida. Revisar las tuberías.</translation>
     </message>
     <message>
         <source>0x311c000b</source>
-        <translation>Aspiración: vacío demasiado alto.</translation>
+        <translation>Unidad de aspiración: vacío demasiado alto.</translation>
     </message>
     <message>
         <source>0x311c000c</source>
-        <translation>Aspiración: vacío demasiado bajo.</translation>
+        <translation>Unidad de aspiración: vacío demasiado bajo.</translation>
     </message>
     <message>
         <source>0x311c000f</source>
-        <translation>Aspiración: valor de vacío no plausible.</translation>
+        <translation>Unidad de aspiración: valor de vacío no plausible.</translation>
     </message>
     <message>
         <source>0x311c0011</source>
-        <translation>Aspiración demasiado caliente. Dejar enfriar.</translation>
+        <translation>Unidad de aspiración demasiado caliente. Dejar enfriar.</translation>
     </message>
     <message>
         <source>0x3204000a</source>
@@ -113,11 +113,11 @@
     </message>
     <message>
         <source>0x3204000f</source>
-        <translation>Esterilización fallida: la temperatura y la presión no concuerdan.</translation>
+        <translation>Esterilización fallida: temperatura y presión no concuerdan.</translation>
     </message>
     <message>
         <source>0x32040017</source>
-        <translation>Esterilización fallida: tiempo de esterilización demasiado corto.</translation>
+        <translation>Esterilización fallida: tiempo insuficiente.</translation>
     </message>
     <message>
         <source>0x3207001e</source>
@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>0x320d001f</source>
-        <translation>Separador de amalgama: recipiente colector lleno. Cambiar el recipiente.</translation>
+        <translation>Separador de amalgama: recipiente colector lleno. Cambiarlo.</translation>
     </message>
     <message>
         <source>0x320e0022</source>
-        <translation>La actualización del software ha fallado.</translation>
+        <translation>Actualización del software fallida.</translation>
     </message>
     <message>
         <source>0x32120022</source>
@@ -145,15 +145,15 @@
     </message>
     <message>
         <source>0x32130022</source>
-        <translation>La sincronización horaria ha fallado.</translation>
+        <translation>Sincronización horaria fallida.</translation>
     </message>
     <message>
         <source>0x3215000f</source>
-        <translation>Escáner de placas de fósforo: desviación de la potencia del láser. Avisar al servicio técnico.</translation>
+        <translation>Escáner de placas de fósforo: láser anómalo. Avisar al SAT.</translation>
     </message>
     <message>
         <source>0x32150017</source>
-        <translation>Escáner de placas de fósforo: lectura no finalizada a tiempo.</translation>
+        <translation>Escáner de placas de fósforo: tiempo de lectura excedido.</translation>
     </message>
     <message>
         <source>0x321b001e</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>0x321c000f</source>
-        <translation>Aspiración: la prueba de caudal ha fallado.</translation>
+        <translation>Unidad de aspiración: prueba de caudal fallida.</translation>
     </message>
     <message>
         <source>0x321f0022</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>0x32230022</source>
-        <translation>Inicio de sesión bloqueado tras demasiados intentos fallidos.</translation>
+        <translation>Acceso bloqueado tras demasiados intentos fallidos.</translation>
     </message>
     <message>
         <source>0x32240022</source>
@@ -185,11 +185,11 @@
     </message>
     <message>
         <source>0x32268010</source>
-        <translation>Quillon Pulse: no se ha podido establecer la conexión.</translation>
+        <translation>Quillon Pulse: conexión fallida.</translation>
     </message>
     <message>
         <source>0x32278010</source>
-        <translation>Quillon Pulse: el registro ha fallado. El servidor ha rechazado los datos de acceso. Comprobar la configuración de red y el código de registro y volver a iniciar el asistente.</translation>
+        <translation>Quillon Pulse: registro fallido. Revisar la red y el código.</translation>
     </message>
     <message>
         <source>0x322d0011</source>
@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>0x322e0023</source>
-        <translation>Intervalo de mantenimiento superado. El equipo solo puede volver a utilizarse una vez que un técnico autorizado haya realizado y confirmado el mantenimiento.</translation>
+        <translation>Intervalo de mantenimiento superado. No usar sin revisión.</translation>
     </message>
     <message>
         <source>0x322f0009</source>
@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>0x3404001e</source>
-        <translation>Desinfectante incorrecto colocado.</translation>
+        <translation>Se ha colocado un desinfectante incorrecto.</translation>
     </message>
     <message>
         <source>0x34050021</source>
@@ -237,11 +237,11 @@
     </message>
     <message>
         <source>0x4068d8e5</source>
-        <translation>El sistema de transporte requiere mantenimiento</translation>
+        <translation>El sistema de transporte requiere mantenimiento.</translation>
     </message>
     <message>
         <source>0x41010011</source>
-        <translation>Temperatura de la electrónica de control elevada. Comprobar la ventilación.</translation>
+        <translation>Electrónica de control caliente. Revisar la ventilación.</translation>
     </message>
     <message>
         <source>0x41010012</source>
@@ -265,39 +265,39 @@
     </message>
     <message>
         <source>0x4102001a</source>
-        <translation>Funcionamiento de emergencia del motor.</translation>
+        <translation>Marcha de emergencia del motor.</translation>
     </message>
     <message>
         <source>0x4104000b</source>
-        <translation>Aire comprimido: presión alta.</translation>
+        <translation>Presión de aire alta.</translation>
     </message>
     <message>
         <source>0x410f000c</source>
-        <translation>Aire comprimido: presión baja. Comprobar si hay fugas en las tuberías.</translation>
+        <translation>Presión de aire baja. Buscar fugas en las tuberías.</translation>
     </message>
     <message>
         <source>0x41120007</source>
-        <translation>Sin señal del sensor de humedad de la unidad de secado.</translation>
+        <translation>Sin señal del sensor de humedad del secador.</translation>
     </message>
     <message>
         <source>0x411c0011</source>
-        <translation>Aspiración: temperatura elevada.</translation>
+        <translation>Unidad de aspiración: temperatura elevada.</translation>
     </message>
     <message>
         <source>0x4122000b</source>
-        <translation>Tiempo de funcionamiento del compresor elevado.</translation>
+        <translation>Compresor: tiempo de marcha alto.</translation>
     </message>
     <message>
         <source>0x41230013</source>
-        <translation>La unidad de secado se regenera con demasiada frecuencia.</translation>
+        <translation>El secador se regenera con demasiada frecuencia.</translation>
     </message>
     <message>
         <source>0x4201000a</source>
-        <translation>Esterilizador: el vacío se genera con lentitud.</translation>
+        <translation>Esterilizador: el vacío se genera lentamente.</translation>
     </message>
     <message>
         <source>0x4201000f</source>
-        <translation>Esterilizador: la presión de la cámara difiere del valor nominal.</translation>
+        <translation>Esterilizador: presión de cámara distinta de la consigna.</translation>
     </message>
     <message>
         <source>0x42010024</source>
@@ -313,19 +313,19 @@
     </message>
     <message>
         <source>0x420c0010</source>
-        <translation>Mantenimiento atrasado. Concertar una cita con el servicio técnico.</translation>
+        <translation>Mantenimiento atrasado. Concertar una cita con el SAT.</translation>
     </message>
     <message>
         <source>0x4211001b</source>
-        <translation>Ajustes de fábrica restablecidos</translation>
+        <translation>Ajustes de fábrica restablecidos.</translation>
     </message>
     <message>
         <source>0x42140022</source>
-        <translation>La exportación de informes ha fallado. Comprobar la carpeta de destino.</translation>
+        <translation>Exportación de informes fallida. Revisar la carpeta.</translation>
     </message>
     <message>
         <source>0x42190022</source>
-        <translation>No se ha podido enviar la notificación por correo electrónico.</translation>
+        <translation>No se ha podido enviar el aviso por correo electrónico.</translation>
     </message>
     <message>
         <source>0x42288010</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>0x4301000d</source>
-        <translation>El cierre de la puerta se mueve con dificultad. Limpiar la junta de la puerta.</translation>
+        <translation>Cierre de la puerta duro. Limpiar la junta de la puerta.</translation>
     </message>
     <message>
         <source>0x43030006</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>0x4402001d</source>
-        <translation>Falta el suministro de desinfectante para la aspiración. Colocar una botella nueva.</translation>
+        <translation>Falta desinfectante de aspiración. Colocar botella nueva.</translation>
     </message>
     <message>
         <source>0x4403001f</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>0x44060012</source>
-        <translation>Tiempo de actuación interrumpido</translation>
+        <translation>Tiempo de actuación interrumpido.</translation>
     </message>
     <message>
         <source>0x45000004</source>
@@ -373,11 +373,11 @@
     </message>
     <message>
         <source>0x48240029</source>
-        <translation>La importación de datos ha finalizado con advertencias.</translation>
+        <translation>Importación de datos finalizada con advertencias.</translation>
     </message>
     <message>
         <source>0x4824002a</source>
-        <translation>El usuario ha cancelado la importación de datos.</translation>
+        <translation>Importación de datos cancelada por el usuario.</translation>
     </message>
     <message>
         <source>0x48240100</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>0x48240102</source>
-        <translation>El encabezado del equipo no contiene REF o DEV_SN.</translation>
+        <translation>El encabezado del equipo no contiene ni REF ni DEV_SN.</translation>
     </message>
     <message>
         <source>0x48240103</source>
@@ -397,15 +397,15 @@
     </message>
     <message>
         <source>0x48240104</source>
-        <translation>La importación de datos ha sido incompleta.</translation>
+        <translation>Importación de datos incompleta.</translation>
     </message>
     <message>
         <source>0x48240200</source>
-        <translation>El archivo cargado se ha creado con una versión de software más reciente y no se puede procesar. Actualizar el software del equipo y repetir la importación de datos.</translation>
+        <translation>Archivo de un software más reciente. Actualizar el equipo.</translation>
     </message>
     <message>
         <source>0x48250025</source>
-        <translation>La exportación de datos ha fallado.</translation>
+        <translation>Exportación de datos fallida.</translation>
     </message>
     <message>
         <source>0x51010013</source>
@@ -413,19 +413,19 @@
     </message>
     <message>
         <source>0x5104000b</source>
-        <translation>Aire comprimido: presión brevemente superior al valor de desconexión.</translation>
+        <translation>Presión de aire brevemente superior a la de parada.</translation>
     </message>
     <message>
         <source>0x510f000c</source>
-        <translation>Aire comprimido: presión brevemente inferior al valor de conexión.</translation>
+        <translation>Presión de aire brevemente inferior a la de arranque.</translation>
     </message>
     <message>
         <source>0x5122000B</source>
-        <translation>Tiempo de funcionamiento del compresor muy elevado. Comprobar el sistema</translation>
+        <translation>Compresor: tiempo de marcha muy alto. Revisar el sistema.</translation>
     </message>
     <message>
         <source>0x51230013</source>
-        <translation>Regeneración de la unidad de secado reiniciada.</translation>
+        <translation>Regeneración del secador reiniciada.</translation>
     </message>
     <message>
         <source>0x52048009</source>
@@ -441,7 +441,7 @@
     </message>
     <message>
         <source>0x520a0010</source>
-        <translation>Mantenimiento anual necesario próximamente.</translation>
+        <translation>Mantenimiento anual próximo.</translation>
     </message>
     <message>
         <source>0x520b0010</source>
@@ -461,11 +461,11 @@
     </message>
     <message>
         <source>0x52100023</source>
-        <translation>Calendario: hay una cita prevista para hoy.</translation>
+        <translation>Calendario: cita prevista para hoy.</translation>
     </message>
     <message>
         <source>0x52118003</source>
-        <translation>Ajustes modificados</translation>
+        <translation>Ajustes modificados.</translation>
     </message>
     <message>
         <source>0x52148001</source>
@@ -477,7 +477,7 @@
     </message>
     <message>
         <source>0x5214800a</source>
-        <translation>Exportación de informes aplazada: carpeta de destino no accesible.</translation>
+        <translation>Exportación de informes aplazada: carpeta no accesible.</translation>
     </message>
     <message>
         <source>0x52148010</source>
@@ -493,7 +493,7 @@
     </message>
     <message>
         <source>0x522a8010</source>
-        <translation>Acceso remoto del servicio técnico activado.</translation>
+        <translation>Acceso remoto del SAT activado.</translation>
     </message>
     <message>
         <source>0x522b8010</source>
@@ -509,15 +509,15 @@
     </message>
     <message>
         <source>0x52300011</source>
-        <translation>Temperatura ambiente elevada. Comprobar la ventilación de la sala.</translation>
+        <translation>Temperatura ambiente elevada. Revisar la ventilación.</translation>
     </message>
     <message>
         <source>0x53030006</source>
-        <translation>Cambio de filtro necesario próximamente.</translation>
+        <translation>Cambio de filtro próximo.</translation>
     </message>
     <message>
         <source>0x5305000b</source>
-        <translation>Conductividad del agua aumentada</translation>
+        <translation>Conductividad del agua elevada.</translation>
     </message>
     <message>
         <source>0x54060020</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>0x621a800d</source>
-        <translation>Usuario conectado</translation>
+        <translation>Usuario conectado.</translation>
     </message>
     <message>
         <source>0x62208006</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>0x622a8010</source>
-        <translation>Acceso remoto del servicio técnico finalizado.</translation>
+        <translation>Acceso remoto del SAT finalizado.</translation>
     </message>
     <message>
         <source>0x622b8010</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>0x68210025</source>
-        <translation>La exportación de datos ha finalizado.</translation>
+        <translation>Exportación de datos finalizada.</translation>
     </message>
     <message>
         <source>0x68220026</source>
@@ -597,15 +597,15 @@
     </message>
     <message>
         <source>0x68240029</source>
-        <translation>La importación de datos ha finalizado correctamente.</translation>
+        <translation>Importación de datos finalizada correctamente.</translation>
     </message>
     <message>
         <source>0x68258010</source>
-        <translation>Asistente interrumpido: la configuración de Quillon Pulse mediante el asistente no ha finalizado.</translation>
+        <translation>Asistente interrumpido: Quillon Pulse sin configurar.</translation>
     </message>
     <message>
         <source>0x95000005</source>
-        <translation>¿Sensor de entrada ocupado demasiado tiempo?</translation>
+        <translation>¿Sensor de entrada obstruido demasiado tiempo?</translation>
     </message>
 </context>
 </TS>

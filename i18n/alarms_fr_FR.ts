@@ -9,15 +9,15 @@
     </message>
     <message>
         <source>0x3067fb9f</source>
-        <translation>Il manque encore une partie de l’appareil</translation>
+        <translation>Il manque encore une partie de l’appareil.</translation>
     </message>
     <message>
         <source>0x3067fba2</source>
-        <translation>Capot de l’unité d’introduction ouvert</translation>
+        <translation>Capot de l’unité d’introduction ouvert.</translation>
     </message>
     <message>
         <source>0x3101000f</source>
-        <translation>Électronique de commande défectueuse. Contacter le service technique.</translation>
+        <translation>Électronique de commande défectueuse. Appeler le SAV.</translation>
     </message>
     <message>
         <source>0x31010011</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>0x31020014</source>
-        <translation>Phase du moteur absente.</translation>
+        <translation>Phase du moteur manquante.</translation>
     </message>
     <message>
         <source>0x31020015</source>
@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>0x3102001a</source>
-        <translation>Échec du fonctionnement de secours du moteur. Contacter le service technique.</translation>
+        <translation>Échec de la marche de secours du moteur. Appeler le SAV.</translation>
     </message>
     <message>
         <source>0x31020022</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>0x31040004</source>
-        <translation>Défaut du capteur de pression. Contacter le service technique.</translation>
+        <translation>Défaut du capteur de pression. Appeler le SAV.</translation>
     </message>
     <message>
         <source>0x31040007</source>
@@ -81,43 +81,43 @@
     </message>
     <message>
         <source>0x3104000b</source>
-        <translation>Air comprimé&#xa0;: pression trop élevée. Appareil arrêté.</translation>
+        <translation>Pression d’air trop élevée. Appareil arrêté.</translation>
     </message>
     <message>
         <source>0x310f000c</source>
-        <translation>Air comprimé&#xa0;: pression trop faible. Traitement impossible.</translation>
+        <translation>Pression d’air trop faible. Soins impossibles.</translation>
     </message>
     <message>
         <source>0x311c0006</source>
-        <translation>Aspiration obstruée. Vérifier les conduites d’aspiration.</translation>
+        <translation>Unité d’aspiration obstruée. Vérifier les conduites.</translation>
     </message>
     <message>
         <source>0x311c000b</source>
-        <translation>Aspiration&#xa0;: dépression trop élevée.</translation>
+        <translation>Unité d’aspiration : dépression trop élevée.</translation>
     </message>
     <message>
         <source>0x311c000c</source>
-        <translation>Aspiration&#xa0;: dépression trop faible.</translation>
+        <translation>Unité d’aspiration : dépression trop faible.</translation>
     </message>
     <message>
         <source>0x311c000f</source>
-        <translation>Aspiration&#xa0;: valeur de dépression non plausible.</translation>
+        <translation>Unité d’aspiration : mesure de dépression non plausible.</translation>
     </message>
     <message>
         <source>0x311c0011</source>
-        <translation>Aspiration trop chaude. Laisser refroidir.</translation>
+        <translation>Unité d’aspiration trop chaude. Laisser refroidir.</translation>
     </message>
     <message>
         <source>0x3204000a</source>
-        <translation>Échec de la stérilisation&#xa0;: vide non atteint.</translation>
+        <translation>Échec de stérilisation : vide non atteint.</translation>
     </message>
     <message>
         <source>0x3204000f</source>
-        <translation>Échec de la stérilisation&#xa0;: température et pression discordantes.</translation>
+        <translation>Échec de stérilisation : température et pression discordantes.</translation>
     </message>
     <message>
         <source>0x32040017</source>
-        <translation>Échec de la stérilisation&#xa0;: temps de stérilisation trop court.</translation>
+        <translation>Échec de stérilisation : durée de stérilisation trop courte.</translation>
     </message>
     <message>
         <source>0x3207001e</source>
@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>0x320d001f</source>
-        <translation>Séparateur d’amalgame&#xa0;: récipient collecteur plein. Remplacer le récipient.</translation>
+        <translation>Séparateur d’amalgame : récipient collecteur plein. À changer.</translation>
     </message>
     <message>
         <source>0x320e0022</source>
@@ -149,11 +149,11 @@
     </message>
     <message>
         <source>0x3215000f</source>
-        <translation>Scanner d’écrans à mémoire&#xa0;: écart de puissance du laser. Contacter le service technique.</translation>
+        <translation>Scanner d’écrans à mémoire : laser déréglé. Appeler le SAV.</translation>
     </message>
     <message>
         <source>0x32150017</source>
-        <translation>Scanner d’écrans à mémoire&#xa0;: lecture non terminée à temps.</translation>
+        <translation>Scanner d’écrans à mémoire : délai de lecture dépassé.</translation>
     </message>
     <message>
         <source>0x321b001e</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>0x321c000f</source>
-        <translation>Aspiration&#xa0;: échec du test de débit.</translation>
+        <translation>Unité d’aspiration : échec du test de débit.</translation>
     </message>
     <message>
         <source>0x321f0022</source>
-        <translation>Clé USB illisible.</translation>
+        <translation>Support USB illisible.</translation>
     </message>
     <message>
         <source>0x32210007</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>0x32230022</source>
-        <translation>Connexion bloquée après un trop grand nombre d’échecs.</translation>
+        <translation>Ouverture de session bloquée après trop d’échecs.</translation>
     </message>
     <message>
         <source>0x32240022</source>
@@ -185,11 +185,11 @@
     </message>
     <message>
         <source>0x32268010</source>
-        <translation>Quillon Pulse&#xa0;: la connexion n’a pas pu être établie.</translation>
+        <translation>Quillon Pulse : échec de la connexion.</translation>
     </message>
     <message>
         <source>0x32278010</source>
-        <translation>Quillon Pulse&#xa0;: échec de l’enregistrement. Le serveur a refusé les données d’accès. Vérifier les paramètres réseau et le code d’enregistrement, puis relancer l’assistant.</translation>
+        <translation>Quillon Pulse : inscription refusée. Vérifier réseau et code.</translation>
     </message>
     <message>
         <source>0x322d0011</source>
@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>0x322e0023</source>
-        <translation>Intervalle de maintenance dépassé. L’appareil ne doit être réutilisé qu’une fois la maintenance effectuée et confirmée par un technicien agréé.</translation>
+        <translation>Intervalle de maintenance dépassé. Ne plus utiliser.</translation>
     </message>
     <message>
         <source>0x322f0009</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>0x322f001d</source>
-        <translation>Récipient collecteur absent.</translation>
+        <translation>Récipient collecteur manquant.</translation>
     </message>
     <message>
         <source>0x33010009</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>0x33040006</source>
-        <translation>Écoulement du séparateur d’amalgame obstrué.</translation>
+        <translation>Évacuation du séparateur d’amalgame obstruée.</translation>
     </message>
     <message>
         <source>0x3401001d</source>
@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>0x3404001e</source>
-        <translation>Désinfectant incorrect mis en place.</translation>
+        <translation>Mauvais désinfectant mis en place.</translation>
     </message>
     <message>
         <source>0x34050021</source>
@@ -237,11 +237,11 @@
     </message>
     <message>
         <source>0x4068d8e5</source>
-        <translation>Le système de transport nécessite une maintenance</translation>
+        <translation>Le système de transport nécessite une maintenance.</translation>
     </message>
     <message>
         <source>0x41010011</source>
-        <translation>Température de l’électronique de commande élevée. Vérifier la ventilation.</translation>
+        <translation>Électronique de commande chaude. Vérifier la ventilation.</translation>
     </message>
     <message>
         <source>0x41010012</source>
@@ -265,31 +265,31 @@
     </message>
     <message>
         <source>0x4102001a</source>
-        <translation>Fonctionnement de secours du moteur.</translation>
+        <translation>Marche de secours du moteur.</translation>
     </message>
     <message>
         <source>0x4104000b</source>
-        <translation>Air comprimé&#xa0;: pression élevée.</translation>
+        <translation>Pression d’air élevée.</translation>
     </message>
     <message>
         <source>0x410f000c</source>
-        <translation>Air comprimé&#xa0;: pression faible. Vérifier l’étanchéité des conduites.</translation>
+        <translation>Pression d’air faible. Rechercher les fuites.</translation>
     </message>
     <message>
         <source>0x41120007</source>
-        <translation>Aucun signal du capteur d’humidité de l’unité de séchage.</translation>
+        <translation>Aucun signal du capteur d’humidité du sécheur.</translation>
     </message>
     <message>
         <source>0x411c0011</source>
-        <translation>Aspiration&#xa0;: température élevée.</translation>
+        <translation>Unité d’aspiration : température élevée.</translation>
     </message>
     <message>
         <source>0x4122000b</source>
-        <translation>Durée de fonctionnement du compresseur élevée.</translation>
+        <translation>Durée de marche du compresseur élevée.</translation>
     </message>
     <message>
         <source>0x41230013</source>
-        <translation>L’unité de séchage se régénère trop souvent.</translation>
+        <translation>Le sécheur se régénère trop souvent.</translation>
     </message>
     <message>
         <source>0x4201000a</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>0x4201000f</source>
-        <translation>Stérilisateur&#xa0;: la pression de la chambre diffère de la consigne.</translation>
+        <translation>Stérilisateur : pression de chambre hors consigne.</translation>
     </message>
     <message>
         <source>0x42010024</source>
@@ -313,15 +313,15 @@
     </message>
     <message>
         <source>0x420c0010</source>
-        <translation>Maintenance en retard. Prendre rendez-vous avec le service technique.</translation>
+        <translation>Maintenance en retard. Prendre rendez-vous avec le SAV.</translation>
     </message>
     <message>
         <source>0x4211001b</source>
-        <translation>Réglages d’usine rétablis</translation>
+        <translation>Réglages d’usine rétablis.</translation>
     </message>
     <message>
         <source>0x42140022</source>
-        <translation>Échec de l’exportation des rapports. Vérifier le dossier cible.</translation>
+        <translation>Échec de l’exportation des rapports. Vérifier le dossier.</translation>
     </message>
     <message>
         <source>0x42190022</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>0x4301000d</source>
-        <translation>Verrouillage de porte grippé. Nettoyer le joint de porte.</translation>
+        <translation>Verrouillage de porte dur. Nettoyer le joint de porte.</translation>
     </message>
     <message>
         <source>0x43030006</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>0x4402001d</source>
-        <translation>Désinfectant pour aspiration absent. Mettre en place un nouveau flacon.</translation>
+        <translation>Désinfectant d’aspiration manquant. Insérer un flacon.</translation>
     </message>
     <message>
         <source>0x4403001f</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>0x44060012</source>
-        <translation>Temps d’action interrompu</translation>
+        <translation>Temps d’action interrompu.</translation>
     </message>
     <message>
         <source>0x45000004</source>
@@ -373,23 +373,23 @@
     </message>
     <message>
         <source>0x48240029</source>
-        <translation>L’importation des données s’est terminée avec des avertissements.</translation>
+        <translation>Importation des données terminée avec avertissements.</translation>
     </message>
     <message>
         <source>0x4824002a</source>
-        <translation>L’importation des données a été annulée par l’utilisateur.</translation>
+        <translation>Importation des données annulée par l’utilisateur.</translation>
     </message>
     <message>
         <source>0x48240100</source>
-        <translation>Le fichier téléversé est vide.</translation>
+        <translation>Le fichier chargé est vide.</translation>
     </message>
     <message>
         <source>0x48240101</source>
-        <translation>Le format de l’en-tête de l’appareil n’est pas valide.</translation>
+        <translation>L’en-tête de l’appareil a un format non valide.</translation>
     </message>
     <message>
         <source>0x48240102</source>
-        <translation>L’en-tête de l’appareil ne contient pas de REF ou de DEV_SN.</translation>
+        <translation>L’en-tête de l’appareil ne contient ni REF ni DEV_SN.</translation>
     </message>
     <message>
         <source>0x48240103</source>
@@ -397,15 +397,15 @@
     </message>
     <message>
         <source>0x48240104</source>
-        <translation>L’importation des données est incomplète.</translation>
+        <translation>Importation des données incomplète.</translation>
     </message>
     <message>
         <source>0x48240200</source>
-        <translation>Le fichier téléversé a été créé avec une version plus récente du logiciel et ne peut pas être traité. Mettre à jour le logiciel de l’appareil et recommencer l’importation des données.</translation>
+        <translation>Fichier trop récent. Mettre à jour le logiciel de l’appareil.</translation>
     </message>
     <message>
         <source>0x48250025</source>
-        <translation>L’exportation des données a échoué.</translation>
+        <translation>Échec de l’exportation des données.</translation>
     </message>
     <message>
         <source>0x51010013</source>
@@ -413,19 +413,19 @@
     </message>
     <message>
         <source>0x5104000b</source>
-        <translation>Air comprimé&#xa0;: pression brièvement supérieure au seuil d’arrêt.</translation>
+        <translation>Pression d’air brièvement au-dessus du seuil d’arrêt.</translation>
     </message>
     <message>
         <source>0x510f000c</source>
-        <translation>Air comprimé&#xa0;: pression brièvement inférieure au seuil de mise en marche.</translation>
+        <translation>Pression d’air brièvement sous le seuil de démarrage.</translation>
     </message>
     <message>
         <source>0x5122000B</source>
-        <translation>Durée de fonctionnement du compresseur très élevée. Vérifier le système</translation>
+        <translation>Durée de marche du compresseur très élevée. À vérifier.</translation>
     </message>
     <message>
         <source>0x51230013</source>
-        <translation>Régénération de l’unité de séchage redémarrée.</translation>
+        <translation>Régénération du sécheur relancée.</translation>
     </message>
     <message>
         <source>0x52048009</source>
@@ -441,7 +441,7 @@
     </message>
     <message>
         <source>0x520a0010</source>
-        <translation>Maintenance annuelle bientôt nécessaire.</translation>
+        <translation>Maintenance annuelle à effectuer prochainement.</translation>
     </message>
     <message>
         <source>0x520b0010</source>
@@ -461,11 +461,11 @@
     </message>
     <message>
         <source>0x52100023</source>
-        <translation>Calendrier&#xa0;: échéance aujourd’hui.</translation>
+        <translation>Calendrier : rendez-vous aujourd’hui.</translation>
     </message>
     <message>
         <source>0x52118003</source>
-        <translation>Réglages modifiés</translation>
+        <translation>Réglages modifiés.</translation>
     </message>
     <message>
         <source>0x52148001</source>
@@ -477,7 +477,7 @@
     </message>
     <message>
         <source>0x5214800a</source>
-        <translation>Exportation des rapports reportée&#xa0;: dossier cible inaccessible.</translation>
+        <translation>Exportation des rapports reportée : dossier inaccessible.</translation>
     </message>
     <message>
         <source>0x52148010</source>
@@ -493,11 +493,11 @@
     </message>
     <message>
         <source>0x522a8010</source>
-        <translation>Accès à distance du service technique activé.</translation>
+        <translation>Accès à distance du SAV activé.</translation>
     </message>
     <message>
         <source>0x522b8010</source>
-        <translation>Quillon Pulse&#xa0;: appareil supprimé du compte.</translation>
+        <translation>Quillon Pulse : appareil retiré du compte.</translation>
     </message>
     <message>
         <source>0x522c8001</source>
@@ -509,15 +509,15 @@
     </message>
     <message>
         <source>0x52300011</source>
-        <translation>Température ambiante élevée. Vérifier la ventilation de la pièce.</translation>
+        <translation>Température ambiante élevée. Vérifier la ventilation.</translation>
     </message>
     <message>
         <source>0x53030006</source>
-        <translation>Remplacement du filtre bientôt nécessaire.</translation>
+        <translation>Filtre à remplacer prochainement.</translation>
     </message>
     <message>
         <source>0x5305000b</source>
-        <translation>Conductivité de l’eau accrue</translation>
+        <translation>Conductivité de l’eau élevée.</translation>
     </message>
     <message>
         <source>0x54060020</source>
@@ -537,7 +537,7 @@
     </message>
     <message>
         <source>0x6207000e</source>
-        <translation>Imprimante&#xa0;: réserve de papier faible.</translation>
+        <translation>Imprimante : papier bientôt épuisé.</translation>
     </message>
     <message>
         <source>0x62070015</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>0x621a800d</source>
-        <translation>Utilisateur connecté</translation>
+        <translation>Utilisateur connecté.</translation>
     </message>
     <message>
         <source>0x62208006</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>0x622a8010</source>
-        <translation>Accès à distance du service technique terminé.</translation>
+        <translation>Accès à distance du SAV terminé.</translation>
     </message>
     <message>
         <source>0x622b8010</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>0x68210025</source>
-        <translation>L’exportation des données est terminée.</translation>
+        <translation>Exportation des données terminée.</translation>
     </message>
     <message>
         <source>0x68220026</source>
@@ -597,15 +597,15 @@
     </message>
     <message>
         <source>0x68240029</source>
-        <translation>L’importation des données s’est terminée avec succès.</translation>
+        <translation>Importation des données terminée avec succès.</translation>
     </message>
     <message>
         <source>0x68258010</source>
-        <translation>Assistant interrompu&#xa0;: la configuration de Quillon Pulse à l’aide de l’assistant n’a pas été terminée.</translation>
+        <translation>Assistant interrompu : Quillon Pulse n’est pas configuré.</translation>
     </message>
     <message>
         <source>0x95000005</source>
-        <translation>Capteur d’entrée occupé trop longtemps&#xa0;?</translation>
+        <translation>Capteur d’entrée masqué trop longtemps ?</translation>
     </message>
 </context>
 </TS>

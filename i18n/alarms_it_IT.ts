@@ -9,15 +9,15 @@
     </message>
     <message>
         <source>0x3067fb9f</source>
-        <translation>Manca ancora una parte dell’apparecchio</translation>
+        <translation>Manca ancora una parte dell’apparecchio.</translation>
     </message>
     <message>
         <source>0x3067fba2</source>
-        <translation>Copertura dell’unità di inserimento aperta</translation>
+        <translation>Coperchio dell’unità di inserimento aperto.</translation>
     </message>
     <message>
         <source>0x3101000f</source>
-        <translation>Elettronica di comando difettosa. Contattare l’assistenza tecnica.</translation>
+        <translation>Elettronica di comando difettosa. Chiamare l’assistenza.</translation>
     </message>
     <message>
         <source>0x31010011</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>0x31010014</source>
-        <translation>Tensione di alimentazione fuori intervallo.</translation>
+        <translation>Tensione di alimentazione fuori dai limiti.</translation>
     </message>
     <message>
         <source>0x31020007</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>0x31020014</source>
-        <translation>Fase del motore assente.</translation>
+        <translation>Fase del motore mancante.</translation>
     </message>
     <message>
         <source>0x31020015</source>
@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>0x3102001a</source>
-        <translation>Funzionamento di emergenza del motore non riuscito. Contattare l’assistenza tecnica.</translation>
+        <translation>Marcia di emergenza del motore fallita. Chiamare l’assistenza.</translation>
     </message>
     <message>
         <source>0x31020022</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>0x31040004</source>
-        <translation>Guasto del sensore di pressione. Contattare l’assistenza tecnica.</translation>
+        <translation>Guasto del sensore di pressione. Chiamare l’assistenza.</translation>
     </message>
     <message>
         <source>0x31040007</source>
@@ -81,43 +81,43 @@
     </message>
     <message>
         <source>0x3104000b</source>
-        <translation>Aria compressa: pressione troppo alta. Apparecchio spento.</translation>
+        <translation>Pressione dell’aria troppo alta. Apparecchio spento.</translation>
     </message>
     <message>
         <source>0x310f000c</source>
-        <translation>Aria compressa: pressione troppo bassa. Trattamento non possibile.</translation>
+        <translation>Pressione dell’aria troppo bassa. Trattamento impossibile.</translation>
     </message>
     <message>
         <source>0x311c0006</source>
-        <translation>Aspirazione ostruita. Controllare le tubazioni di aspirazione.</translation>
+        <translation>Unità di aspirazione ostruita. Controllare le tubazioni.</translation>
     </message>
     <message>
         <source>0x311c000b</source>
-        <translation>Aspirazione: depressione troppo alta.</translation>
+        <translation>Unità di aspirazione: depressione troppo alta.</translation>
     </message>
     <message>
         <source>0x311c000c</source>
-        <translation>Aspirazione: depressione troppo bassa.</translation>
+        <translation>Unità di aspirazione: depressione troppo bassa.</translation>
     </message>
     <message>
         <source>0x311c000f</source>
-        <translation>Aspirazione: valore di depressione non plausibile.</translation>
+        <translation>Unità di aspirazione: valore di depressione non plausibile.</translation>
     </message>
     <message>
         <source>0x311c0011</source>
-        <translation>Aspirazione troppo calda. Lasciare raffreddare.</translation>
+        <translation>Unità di aspirazione troppo calda. Lasciare raffreddare.</translation>
     </message>
     <message>
         <source>0x3204000a</source>
-        <translation>Sterilizzazione non riuscita: vuoto non raggiunto.</translation>
+        <translation>Sterilizzazione fallita: vuoto non raggiunto.</translation>
     </message>
     <message>
         <source>0x3204000f</source>
-        <translation>Sterilizzazione non riuscita: temperatura e pressione non concordano.</translation>
+        <translation>Sterilizzazione fallita: temperatura e pressione discordanti.</translation>
     </message>
     <message>
         <source>0x32040017</source>
-        <translation>Sterilizzazione non riuscita: tempo di sterilizzazione troppo breve.</translation>
+        <translation>Sterilizzazione fallita: tempo troppo breve.</translation>
     </message>
     <message>
         <source>0x3207001e</source>
@@ -133,11 +133,11 @@
     </message>
     <message>
         <source>0x320d001f</source>
-        <translation>Separatore di amalgama: contenitore di raccolta pieno. Sostituire il contenitore.</translation>
+        <translation>Separatore di amalgama: contenitore pieno. Sostituirlo.</translation>
     </message>
     <message>
         <source>0x320e0022</source>
-        <translation>Aggiornamento software non riuscito.</translation>
+        <translation>Aggiornamento software fallito.</translation>
     </message>
     <message>
         <source>0x32120022</source>
@@ -145,15 +145,15 @@
     </message>
     <message>
         <source>0x32130022</source>
-        <translation>Sincronizzazione dell’ora non riuscita.</translation>
+        <translation>Sincronizzazione dell’ora fallita.</translation>
     </message>
     <message>
         <source>0x3215000f</source>
-        <translation>Scanner per piastre ai fosfori: potenza laser non conforme. Contattare l’assistenza tecnica.</translation>
+        <translation>Scanner ai fosfori: laser anomalo. Chiamare l’assistenza.</translation>
     </message>
     <message>
         <source>0x32150017</source>
-        <translation>Scanner per piastre ai fosfori: scansione non completata in tempo.</translation>
+        <translation>Scanner ai fosfori: scansione non completata in tempo.</translation>
     </message>
     <message>
         <source>0x321b001e</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>0x321c000f</source>
-        <translation>Aspirazione: test di portata non riuscito.</translation>
+        <translation>Unità di aspirazione: test di portata fallito.</translation>
     </message>
     <message>
         <source>0x321f0022</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>0x32230022</source>
-        <translation>Accesso bloccato dopo troppi tentativi non riusciti.</translation>
+        <translation>Accesso bloccato dopo troppi tentativi falliti.</translation>
     </message>
     <message>
         <source>0x32240022</source>
@@ -185,11 +185,11 @@
     </message>
     <message>
         <source>0x32268010</source>
-        <translation>Quillon Pulse: impossibile stabilire la connessione.</translation>
+        <translation>Quillon Pulse: connessione fallita.</translation>
     </message>
     <message>
         <source>0x32278010</source>
-        <translation>Quillon Pulse: registrazione non riuscita. Il server ha rifiutato i dati di accesso. Controllare le impostazioni di rete e il codice di registrazione, quindi avviare di nuovo la procedura guidata.</translation>
+        <translation>Quillon Pulse: registrazione fallita. Controllare rete e codice.</translation>
     </message>
     <message>
         <source>0x322d0011</source>
@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>0x322e0023</source>
-        <translation>Intervallo di manutenzione superato. L’apparecchio può essere riutilizzato solo dopo che la manutenzione è stata eseguita e confermata da un tecnico autorizzato.</translation>
+        <translation>Intervallo di manutenzione superato. Sospendere l’uso.</translation>
     </message>
     <message>
         <source>0x322f0009</source>
@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>0x3401001d</source>
-        <translation>Alimentazione idrica assente. Aprire la valvola dell’acqua.</translation>
+        <translation>Manca l’acqua. Aprire la valvola dell’acqua.</translation>
     </message>
     <message>
         <source>0x3404001e</source>
@@ -237,11 +237,11 @@
     </message>
     <message>
         <source>0x4068d8e5</source>
-        <translation>Il sistema di trasporto necessita di manutenzione</translation>
+        <translation>Il sistema di trasporto necessita di manutenzione.</translation>
     </message>
     <message>
         <source>0x41010011</source>
-        <translation>Temperatura dell’elettronica di comando elevata. Controllare la ventilazione.</translation>
+        <translation>Elettronica di comando calda. Controllare la ventilazione.</translation>
     </message>
     <message>
         <source>0x41010012</source>
@@ -265,31 +265,31 @@
     </message>
     <message>
         <source>0x4102001a</source>
-        <translation>Funzionamento di emergenza del motore.</translation>
+        <translation>Marcia di emergenza del motore.</translation>
     </message>
     <message>
         <source>0x4104000b</source>
-        <translation>Aria compressa: pressione alta.</translation>
+        <translation>Pressione dell’aria alta.</translation>
     </message>
     <message>
         <source>0x410f000c</source>
-        <translation>Aria compressa: pressione bassa. Controllare la tenuta delle tubazioni.</translation>
+        <translation>Pressione dell’aria bassa. Cercare eventuali perdite.</translation>
     </message>
     <message>
         <source>0x41120007</source>
-        <translation>Nessun segnale dal sensore di umidità dell’unità di essiccazione.</translation>
+        <translation>Nessun segnale dal sensore di umidità dell’essiccatore.</translation>
     </message>
     <message>
         <source>0x411c0011</source>
-        <translation>Aspirazione: temperatura elevata.</translation>
+        <translation>Unità di aspirazione: temperatura elevata.</translation>
     </message>
     <message>
         <source>0x4122000b</source>
-        <translation>Tempo di funzionamento del compressore elevato.</translation>
+        <translation>Tempo di marcia del compressore elevato.</translation>
     </message>
     <message>
         <source>0x41230013</source>
-        <translation>L’unità di essiccazione si rigenera troppo spesso.</translation>
+        <translation>L’essiccatore si rigenera troppo spesso.</translation>
     </message>
     <message>
         <source>0x4201000a</source>
@@ -297,11 +297,11 @@
     </message>
     <message>
         <source>0x4201000f</source>
-        <translation>Sterilizzatrice: la pressione della camera si discosta dal valore nominale.</translation>
+        <translation>Sterilizzatrice: pressione in camera fuori tolleranza.</translation>
     </message>
     <message>
         <source>0x42010024</source>
-        <translation>Sterilizzatrice: test del vuoto scaduto.</translation>
+        <translation>Sterilizzatrice: test del vuoto in ritardo.</translation>
     </message>
     <message>
         <source>0x42020009</source>
@@ -313,15 +313,15 @@
     </message>
     <message>
         <source>0x420c0010</source>
-        <translation>Manutenzione scaduta. Fissare un appuntamento con l’assistenza tecnica.</translation>
+        <translation>Manutenzione in ritardo. Fissare un appuntamento.</translation>
     </message>
     <message>
         <source>0x4211001b</source>
-        <translation>Impostazioni di fabbrica ripristinate</translation>
+        <translation>Impostazioni di fabbrica ripristinate.</translation>
     </message>
     <message>
         <source>0x42140022</source>
-        <translation>Esportazione dei rapporti non riuscita. Controllare la cartella di destinazione.</translation>
+        <translation>Esportazione rapporti fallita. Controllare la cartella.</translation>
     </message>
     <message>
         <source>0x42190022</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>0x4301000d</source>
-        <translation>Blocco porta poco scorrevole. Pulire la guarnizione della porta.</translation>
+        <translation>Blocco porta duro. Pulire la guarnizione della porta.</translation>
     </message>
     <message>
         <source>0x43030006</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>0x4402001d</source>
-        <translation>Manca il disinfettante per l’aspirazione. Inserire un nuovo flacone.</translation>
+        <translation>Manca il disinfettante per aspirazione. Inserire un flacone.</translation>
     </message>
     <message>
         <source>0x4403001f</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>0x44060012</source>
-        <translation>Tempo di azione interrotto</translation>
+        <translation>Tempo di azione interrotto.</translation>
     </message>
     <message>
         <source>0x45000004</source>
@@ -373,11 +373,11 @@
     </message>
     <message>
         <source>0x48240029</source>
-        <translation>L’importazione dei dati è stata completata con avvisi.</translation>
+        <translation>Importazione dati completata con avvisi.</translation>
     </message>
     <message>
         <source>0x4824002a</source>
-        <translation>L’importazione dei dati è stata annullata dall’utente.</translation>
+        <translation>Importazione dati annullata dall’utente.</translation>
     </message>
     <message>
         <source>0x48240100</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>0x48240102</source>
-        <translation>L’intestazione dell’apparecchio non contiene REF o DEV_SN.</translation>
+        <translation>L’intestazione dell’apparecchio non contiene REF né DEV_SN.</translation>
     </message>
     <message>
         <source>0x48240103</source>
@@ -397,15 +397,15 @@
     </message>
     <message>
         <source>0x48240104</source>
-        <translation>L’importazione dei dati è incompleta.</translation>
+        <translation>Importazione dati incompleta.</translation>
     </message>
     <message>
         <source>0x48240200</source>
-        <translation>Il file caricato è stato creato con una versione software più recente e non può essere elaborato. Aggiornare il software dell’apparecchio e ripetere l’importazione dei dati.</translation>
+        <translation>File di un software più recente. Aggiornare l’apparecchio.</translation>
     </message>
     <message>
         <source>0x48250025</source>
-        <translation>L’esportazione dei dati non è riuscita.</translation>
+        <translation>Esportazione dati fallita.</translation>
     </message>
     <message>
         <source>0x51010013</source>
@@ -413,19 +413,19 @@
     </message>
     <message>
         <source>0x5104000b</source>
-        <translation>Aria compressa: pressione per breve tempo superiore al valore di spegnimento.</translation>
+        <translation>Pressione dell’aria brevemente sopra quella di arresto.</translation>
     </message>
     <message>
         <source>0x510f000c</source>
-        <translation>Aria compressa: pressione per breve tempo inferiore al valore di accensione.</translation>
+        <translation>Pressione dell’aria brevemente sotto quella di avvio.</translation>
     </message>
     <message>
         <source>0x5122000B</source>
-        <translation>Tempo di funzionamento del compressore molto elevato. Controllare il sistema</translation>
+        <translation>Tempo di marcia del compressore molto elevato. Controllare.</translation>
     </message>
     <message>
         <source>0x51230013</source>
-        <translation>Rigenerazione dell’unità di essiccazione riavviata.</translation>
+        <translation>Rigenerazione dell’essiccatore riavviata.</translation>
     </message>
     <message>
         <source>0x52048009</source>
@@ -449,7 +449,7 @@
     </message>
     <message>
         <source>0x520d001f</source>
-        <translation>Separatore di amalgama: contenitore di raccolta quasi pieno.</translation>
+        <translation>Separatore di amalgama: contenitore quasi pieno.</translation>
     </message>
     <message>
         <source>0x520e8001</source>
@@ -461,27 +461,27 @@
     </message>
     <message>
         <source>0x52100023</source>
-        <translation>Calendario: scadenza prevista per oggi.</translation>
+        <translation>Calendario: appuntamento previsto per oggi.</translation>
     </message>
     <message>
         <source>0x52118003</source>
-        <translation>Impostazioni modificate</translation>
+        <translation>Impostazioni modificate.</translation>
     </message>
     <message>
         <source>0x52148001</source>
-        <translation>Esportazione dei rapporti avviata.</translation>
+        <translation>Esportazione rapporti avviata.</translation>
     </message>
     <message>
         <source>0x52148006</source>
-        <translation>Esportazione dei rapporti completata.</translation>
+        <translation>Esportazione rapporti completata.</translation>
     </message>
     <message>
         <source>0x5214800a</source>
-        <translation>Esportazione dei rapporti rinviata: cartella di destinazione non raggiungibile.</translation>
+        <translation>Esportazione rapporti rinviata: cartella non raggiungibile.</translation>
     </message>
     <message>
         <source>0x52148010</source>
-        <translation>Esportazione dei rapporti interrotta.</translation>
+        <translation>Esportazione rapporti interrotta.</translation>
     </message>
     <message>
         <source>0x521d8012</source>
@@ -493,7 +493,7 @@
     </message>
     <message>
         <source>0x522a8010</source>
-        <translation>Accesso remoto dell’assistenza tecnica attivato.</translation>
+        <translation>Accesso remoto dell’assistenza attivato.</translation>
     </message>
     <message>
         <source>0x522b8010</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>0x52300011</source>
-        <translation>Temperatura ambiente elevata. Controllare la ventilazione del locale.</translation>
+        <translation>Temperatura ambiente elevata. Controllare la ventilazione.</translation>
     </message>
     <message>
         <source>0x53030006</source>
@@ -517,7 +517,7 @@
     </message>
     <message>
         <source>0x5305000b</source>
-        <translation>Conducibilità dell’acqua aumentata</translation>
+        <translation>Conducibilità dell’acqua elevata.</translation>
     </message>
     <message>
         <source>0x54060020</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>0x621a800d</source>
-        <translation>Utente connesso</translation>
+        <translation>Utente connesso.</translation>
     </message>
     <message>
         <source>0x62208006</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>0x622a8010</source>
-        <translation>Accesso remoto dell’assistenza tecnica terminato.</translation>
+        <translation>Accesso remoto dell’assistenza terminato.</translation>
     </message>
     <message>
         <source>0x622b8010</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>0x68210025</source>
-        <translation>L’esportazione dei dati è stata completata.</translation>
+        <translation>Esportazione dati completata.</translation>
     </message>
     <message>
         <source>0x68220026</source>
@@ -597,15 +597,15 @@
     </message>
     <message>
         <source>0x68240029</source>
-        <translation>L’importazione dei dati è stata completata correttamente.</translation>
+        <translation>Importazione dati completata correttamente.</translation>
     </message>
     <message>
         <source>0x68258010</source>
-        <translation>Procedura guidata interrotta: la configurazione di Quillon Pulse tramite procedura guidata non è stata completata.</translation>
+        <translation>Procedura guidata interrotta: Quillon Pulse non configurato.</translation>
     </message>
     <message>
         <source>0x95000005</source>
-        <translation>Sensore di ingresso occupato troppo a lungo?</translation>
+        <translation>Sensore di ingresso impegnato troppo a lungo?</translation>
     </message>
 </context>
 </TS>

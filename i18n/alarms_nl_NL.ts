@@ -9,15 +9,15 @@
     </message>
     <message>
         <source>0x3067fb9f</source>
-        <translation>Er ontbreekt nog een deel van het apparaat</translation>
+        <translation>Er ontbreekt nog een deel van het apparaat.</translation>
     </message>
     <message>
         <source>0x3067fba2</source>
-        <translation>Klep van invoereenheid open</translation>
+        <translation>Klep van de invoereenheid open.</translation>
     </message>
     <message>
         <source>0x3101000f</source>
-        <translation>Besturingselektronica defect. Technische dienst waarschuwen.</translation>
+        <translation>Besturingselektronica defect. Service bellen.</translation>
     </message>
     <message>
         <source>0x31010011</source>
@@ -25,11 +25,11 @@
     </message>
     <message>
         <source>0x31010014</source>
-        <translation>Voedingsspanning buiten bereik.</translation>
+        <translation>Voedingsspanning buiten toegestane grenzen.</translation>
     </message>
     <message>
         <source>0x31020007</source>
-        <translation>Geen verbinding met motorbesturing.</translation>
+        <translation>Geen verbinding met de motorbesturing.</translation>
     </message>
     <message>
         <source>0x3102000C</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>0x31020015</source>
-        <translation>Kortsluiting in motor.</translation>
+        <translation>Kortsluiting in de motor.</translation>
     </message>
     <message>
         <source>0x31020018</source>
@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>0x3102001a</source>
-        <translation>Noodbedrijf van motor mislukt. Technische dienst waarschuwen.</translation>
+        <translation>Noodbedrijf van de motor mislukt. Service bellen.</translation>
     </message>
     <message>
         <source>0x31020022</source>
@@ -73,11 +73,11 @@
     </message>
     <message>
         <source>0x31040004</source>
-        <translation>Storing van druksensor. Technische dienst waarschuwen.</translation>
+        <translation>Storing van de druksensor. Service bellen.</translation>
     </message>
     <message>
         <source>0x31040007</source>
-        <translation>Geen signaal van druksensor.</translation>
+        <translation>Geen signaal van de druksensor.</translation>
     </message>
     <message>
         <source>0x3104000b</source>
@@ -89,23 +89,23 @@
     </message>
     <message>
         <source>0x311c0006</source>
-        <translation>Afzuiging verstopt. Zuigleidingen controleren.</translation>
+        <translation>Afzuigunit verstopt. Zuigleidingen controleren.</translation>
     </message>
     <message>
         <source>0x311c000b</source>
-        <translation>Afzuiging: onderdruk te hoog.</translation>
+        <translation>Afzuigunit: onderdruk te hoog.</translation>
     </message>
     <message>
         <source>0x311c000c</source>
-        <translation>Afzuiging: onderdruk te laag.</translation>
+        <translation>Afzuigunit: onderdruk te laag.</translation>
     </message>
     <message>
         <source>0x311c000f</source>
-        <translation>Afzuiging: meetwaarde van onderdruk niet plausibel.</translation>
+        <translation>Afzuigunit: gemeten onderdruk niet plausibel.</translation>
     </message>
     <message>
         <source>0x311c0011</source>
-        <translation>Afzuiging te heet. Laten afkoelen.</translation>
+        <translation>Afzuigunit te heet. Laten afkoelen.</translation>
     </message>
     <message>
         <source>0x3204000a</source>
@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>0x320d001f</source>
-        <translation>Amalgaamafscheider: opvangreservoir vol. Reservoir vervangen.</translation>
+        <translation>Amalgaamafscheider: opvangreservoir vol. Vervangen.</translation>
     </message>
     <message>
         <source>0x320e0022</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>0x3215000f</source>
-        <translation>Fosforplaatscanner: laservermogen wijkt af. Technische dienst waarschuwen.</translation>
+        <translation>Fosforplaatscanner: laservermogen wijkt af. Service bellen.</translation>
     </message>
     <message>
         <source>0x32150017</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>0x321c000f</source>
-        <translation>Afzuiging: debiettest mislukt.</translation>
+        <translation>Afzuigunit: debiettest mislukt.</translation>
     </message>
     <message>
         <source>0x321f0022</source>
@@ -169,7 +169,7 @@
     </message>
     <message>
         <source>0x32210007</source>
-        <translation>Verbinding met praktijkserver verbroken.</translation>
+        <translation>Verbinding met de praktijkserver verbroken.</translation>
     </message>
     <message>
         <source>0x32230022</source>
@@ -185,11 +185,11 @@
     </message>
     <message>
         <source>0x32268010</source>
-        <translation>Quillon Pulse: verbinding kon niet tot stand worden gebracht.</translation>
+        <translation>Quillon Pulse: verbinding mislukt.</translation>
     </message>
     <message>
         <source>0x32278010</source>
-        <translation>Quillon Pulse: registratie mislukt. De server heeft de toegangsgegevens geweigerd. Netwerkinstellingen en registratiecode controleren en vervolgens de wizard opnieuw starten.</translation>
+        <translation>Quillon Pulse: registratie mislukt. Netwerk en code nagaan.</translation>
     </message>
     <message>
         <source>0x322d0011</source>
@@ -197,11 +197,11 @@
     </message>
     <message>
         <source>0x322e0023</source>
-        <translation>Onderhoudsinterval overschreden. Het apparaat mag pas weer worden gebruikt nadat het onderhoud is uitgevoerd en door een bevoegde technicus is bevestigd.</translation>
+        <translation>Onderhoudsinterval overschreden. Niet meer gebruiken.</translation>
     </message>
     <message>
         <source>0x322f0009</source>
-        <translation>Deksel van opvangreservoir open.</translation>
+        <translation>Deksel van het opvangreservoir open.</translation>
     </message>
     <message>
         <source>0x322f001d</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>0x33040006</source>
-        <translation>Afvoer van amalgaamafscheider verstopt.</translation>
+        <translation>Afvoer van de amalgaamafscheider verstopt.</translation>
     </message>
     <message>
         <source>0x3401001d</source>
@@ -237,15 +237,15 @@
     </message>
     <message>
         <source>0x4068d8e5</source>
-        <translation>Transportsysteem heeft onderhoud nodig</translation>
+        <translation>Transportsysteem heeft onderhoud nodig.</translation>
     </message>
     <message>
         <source>0x41010011</source>
-        <translation>Temperatuur van besturingselektronica hoog. Ventilatie controleren.</translation>
+        <translation>Besturingselektronica warm. Ventilatie controleren.</translation>
     </message>
     <message>
         <source>0x41010012</source>
-        <translation>Voeding was onderbroken.</translation>
+        <translation>Stroomvoorziening was onderbroken.</translation>
     </message>
     <message>
         <source>0x41010014</source>
@@ -253,7 +253,7 @@
     </message>
     <message>
         <source>0x4101001b</source>
-        <translation>Interne klok teruggezet. Datum en tijd instellen.</translation>
+        <translation>Interne klok gereset. Datum en tijd instellen.</translation>
     </message>
     <message>
         <source>0x41020011</source>
@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>0x4102001a</source>
-        <translation>Noodbedrijf van motor.</translation>
+        <translation>Noodbedrijf van de motor.</translation>
     </message>
     <message>
         <source>0x4104000b</source>
@@ -277,27 +277,27 @@
     </message>
     <message>
         <source>0x41120007</source>
-        <translation>Geen signaal van vochtsensor van droging.</translation>
+        <translation>Geen signaal van de vochtsensor van de droger.</translation>
     </message>
     <message>
         <source>0x411c0011</source>
-        <translation>Afzuiging: temperatuur hoog.</translation>
+        <translation>Afzuigunit: temperatuur hoog.</translation>
     </message>
     <message>
         <source>0x4122000b</source>
-        <translation>Looptijd van compressor hoog.</translation>
+        <translation>Draaitijd van de compressor hoog.</translation>
     </message>
     <message>
         <source>0x41230013</source>
-        <translation>Droging regenereert te vaak.</translation>
+        <translation>Droger regenereert te vaak.</translation>
     </message>
     <message>
         <source>0x4201000a</source>
-        <translation>Sterilisator: vacuüm bouwt langzaam op.</translation>
+        <translation>Sterilisator: vacuüm wordt langzaam opgebouwd.</translation>
     </message>
     <message>
         <source>0x4201000f</source>
-        <translation>Sterilisator: kamerdruk wijkt af van gewenste waarde.</translation>
+        <translation>Sterilisator: kamerdruk wijkt af van de ingestelde waarde.</translation>
     </message>
     <message>
         <source>0x42010024</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>0x42020009</source>
-        <translation>Deksel van watertank niet gesloten.</translation>
+        <translation>Deksel van de watertank niet gesloten.</translation>
     </message>
     <message>
         <source>0x4207000d</source>
@@ -313,15 +313,15 @@
     </message>
     <message>
         <source>0x420c0010</source>
-        <translation>Onderhoud achterstallig. Afspraak maken met de technische dienst.</translation>
+        <translation>Onderhoud achterstallig. Onderhoudsafspraak maken.</translation>
     </message>
     <message>
         <source>0x4211001b</source>
-        <translation>Fabrieksinstellingen hersteld</translation>
+        <translation>Fabrieksinstellingen hersteld.</translation>
     </message>
     <message>
         <source>0x42140022</source>
-        <translation>Export van rapporten mislukt. Doelmap controleren.</translation>
+        <translation>Rapportexport mislukt. Doelmap controleren.</translation>
     </message>
     <message>
         <source>0x42190022</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>0x43010009</source>
-        <translation>Deur is vóór einde van programma geopend.</translation>
+        <translation>Deur is vóór het einde van het programma geopend.</translation>
     </message>
     <message>
         <source>0x4301000d</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>0x4402001d</source>
-        <translation>Desinfectiemiddel voor afzuiging ontbreekt. Nieuwe fles plaatsen.</translation>
+        <translation>Desinfectiemiddel voor afzuiging ontbreekt. Fles plaatsen.</translation>
     </message>
     <message>
         <source>0x4403001f</source>
@@ -361,11 +361,11 @@
     </message>
     <message>
         <source>0x44060012</source>
-        <translation>Inwerktijd onderbroken</translation>
+        <translation>Inwerktijd onderbroken.</translation>
     </message>
     <message>
         <source>0x45000004</source>
-        <translation>Storing van uitgangssensor!</translation>
+        <translation>Storing van de uitgangssensor!</translation>
     </message>
     <message>
         <source>0x48240028</source>
@@ -373,11 +373,11 @@
     </message>
     <message>
         <source>0x48240029</source>
-        <translation>De gegevensimport is voltooid met waarschuwingen.</translation>
+        <translation>Gegevensimport voltooid met waarschuwingen.</translation>
     </message>
     <message>
         <source>0x4824002a</source>
-        <translation>De gegevensimport is door de gebruiker geannuleerd.</translation>
+        <translation>Gegevensimport door gebruiker geannuleerd.</translation>
     </message>
     <message>
         <source>0x48240100</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>0x48240102</source>
-        <translation>De apparaatheader bevat geen REF of DEV_SN.</translation>
+        <translation>De apparaatheader bevat noch REF noch DEV_SN.</translation>
     </message>
     <message>
         <source>0x48240103</source>
@@ -397,15 +397,15 @@
     </message>
     <message>
         <source>0x48240104</source>
-        <translation>De gegevensimport was onvolledig.</translation>
+        <translation>Gegevensimport onvolledig.</translation>
     </message>
     <message>
         <source>0x48240200</source>
-        <translation>Het geüploade bestand is gemaakt met een nieuwere softwareversie en kan niet worden verwerkt. Apparaatsoftware bijwerken en gegevensimport herhalen.</translation>
+        <translation>Bestand vereist nieuwere software. Apparaat bijwerken.</translation>
     </message>
     <message>
         <source>0x48250025</source>
-        <translation>De gegevensexport is mislukt.</translation>
+        <translation>Gegevensexport mislukt.</translation>
     </message>
     <message>
         <source>0x51010013</source>
@@ -413,19 +413,19 @@
     </message>
     <message>
         <source>0x5104000b</source>
-        <translation>Perslucht: druk kort boven de uitschakelwaarde.</translation>
+        <translation>Perslucht: druk kortstondig boven de uitschakelwaarde.</translation>
     </message>
     <message>
         <source>0x510f000c</source>
-        <translation>Perslucht: druk kort onder de inschakelwaarde.</translation>
+        <translation>Perslucht: druk kortstondig onder de inschakelwaarde.</translation>
     </message>
     <message>
         <source>0x5122000B</source>
-        <translation>Looptijd van compressor zeer hoog. Systeem controleren</translation>
+        <translation>Draaitijd van de compressor zeer hoog. Systeem controleren.</translation>
     </message>
     <message>
         <source>0x51230013</source>
-        <translation>Regeneratie van droging opnieuw gestart.</translation>
+        <translation>Regeneratie van de droger opnieuw gestart.</translation>
     </message>
     <message>
         <source>0x52048009</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>0x520b0010</source>
-        <translation>Validatie van sterilisator nodig.</translation>
+        <translation>Validatie van de sterilisator nodig.</translation>
     </message>
     <message>
         <source>0x520d001f</source>
@@ -461,27 +461,27 @@
     </message>
     <message>
         <source>0x52100023</source>
-        <translation>Kalender: afspraak gepland voor vandaag.</translation>
+        <translation>Agenda: afspraak voor vandaag.</translation>
     </message>
     <message>
         <source>0x52118003</source>
-        <translation>Instellingen gewijzigd</translation>
+        <translation>Instellingen gewijzigd.</translation>
     </message>
     <message>
         <source>0x52148001</source>
-        <translation>Export van rapporten gestart.</translation>
+        <translation>Rapportexport gestart.</translation>
     </message>
     <message>
         <source>0x52148006</source>
-        <translation>Export van rapporten voltooid.</translation>
+        <translation>Rapportexport voltooid.</translation>
     </message>
     <message>
         <source>0x5214800a</source>
-        <translation>Export van rapporten uitgesteld: doelmap niet bereikbaar.</translation>
+        <translation>Rapportexport uitgesteld: doelmap niet bereikbaar.</translation>
     </message>
     <message>
         <source>0x52148010</source>
-        <translation>Export van rapporten afgebroken.</translation>
+        <translation>Rapportexport afgebroken.</translation>
     </message>
     <message>
         <source>0x521d8012</source>
@@ -493,11 +493,11 @@
     </message>
     <message>
         <source>0x522a8010</source>
-        <translation>Externe toegang voor technische dienst ingeschakeld.</translation>
+        <translation>Externe toegang voor service ingeschakeld.</translation>
     </message>
     <message>
         <source>0x522b8010</source>
-        <translation>Quillon Pulse: apparaat uit account verwijderd.</translation>
+        <translation>Quillon Pulse: apparaat uit het account verwijderd.</translation>
     </message>
     <message>
         <source>0x522c8001</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>0x52300011</source>
-        <translation>Ruimtetemperatuur hoog. Ventilatie van de ruimte controleren.</translation>
+        <translation>Ruimtetemperatuur hoog. Ruimteventilatie controleren.</translation>
     </message>
     <message>
         <source>0x53030006</source>
@@ -517,7 +517,7 @@
     </message>
     <message>
         <source>0x5305000b</source>
-        <translation>Geleidbaarheid van water verhoogd</translation>
+        <translation>Geleidbaarheid van het water verhoogd.</translation>
     </message>
     <message>
         <source>0x54060020</source>
@@ -553,23 +553,23 @@
     </message>
     <message>
         <source>0x621a800d</source>
-        <translation>Gebruiker aangemeld</translation>
+        <translation>Gebruiker aangemeld.</translation>
     </message>
     <message>
         <source>0x62208006</source>
-        <translation>Röntgenopname overgedragen.</translation>
+        <translation>Röntgenopname verzonden.</translation>
     </message>
     <message>
         <source>0x622a8010</source>
-        <translation>Externe toegang voor technische dienst beëindigd.</translation>
+        <translation>Externe toegang voor service beëindigd.</translation>
     </message>
     <message>
         <source>0x622b8010</source>
-        <translation>Quillon Pulse: apparaat aan account toegevoegd.</translation>
+        <translation>Quillon Pulse: apparaat aan het account toegevoegd.</translation>
     </message>
     <message>
         <source>0x62318006</source>
-        <translation>Logboek van waterkwaliteit bijgewerkt.</translation>
+        <translation>Logboek van de waterkwaliteit bijgewerkt.</translation>
     </message>
     <message>
         <source>0x64068001</source>
@@ -577,7 +577,7 @@
     </message>
     <message>
         <source>0x64078001</source>
-        <translation>Spoelen van waterleidingen gestart.</translation>
+        <translation>Spoelen van de waterleidingen gestart.</translation>
     </message>
     <message>
         <source>0x6801001b</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>0x68210025</source>
-        <translation>De gegevensexport is voltooid.</translation>
+        <translation>Gegevensexport voltooid.</translation>
     </message>
     <message>
         <source>0x68220026</source>
@@ -597,11 +597,11 @@
     </message>
     <message>
         <source>0x68240029</source>
-        <translation>De gegevensimport is met succes voltooid.</translation>
+        <translation>Gegevensimport met succes voltooid.</translation>
     </message>
     <message>
         <source>0x68258010</source>
-        <translation>Wizard afgebroken: de configuratie van Quillon Pulse via de wizard is niet voltooid.</translation>
+        <translation>Wizard afgebroken: Quillon Pulse niet geconfigureerd.</translation>
     </message>
     <message>
         <source>0x95000005</source>
