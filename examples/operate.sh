@@ -4,7 +4,7 @@
 #
 # operate.sh toggle                      starts or stops the simulation
 # operate.sh raise SIGNATURE IMPORTANCE  chooses an alarm, such as 0x31020011 ERR, and raises it
-# operate.sh end                         ends the alarm
+# operate.sh end                         clears the alarm
 #
 # Operates the window on $DISPLAY by keyboard, with xdotool. The program must run with --factorytech. Tab goes from
 # startStopSimulationButton over alarmList, alarmImportance, alarmAction and raiseAlarmButton to removeAlarmButton;

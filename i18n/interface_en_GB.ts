@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Alarm beenden</source>
-        <translation>End alarm</translation>
+        <translation>Clear alarm</translation>
     </message>
     <message>
         <source>Bestätigung</source>

@@ -9,15 +9,15 @@
     </message>
     <message>
         <source>Simulation beenden</source>
-        <translation>Finalizar simulación</translation>
+        <translation>Detener simulación</translation>
     </message>
     <message>
         <source>Alarm auslösen</source>
-        <translation>Activar alarma</translation>
+        <translation>Generar alarma</translation>
     </message>
     <message>
         <source>Alarm beenden</source>
-        <translation>Finalizar alarma</translation>
+        <translation>Borrar alarma</translation>
     </message>
     <message>
         <source>Bestätigung</source>

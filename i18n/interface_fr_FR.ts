@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Alarm beenden</source>
-        <translation>Arrêter l’alarme</translation>
+        <translation>Effacer l’alarme</translation>
     </message>
     <message>
         <source>Bestätigung</source>

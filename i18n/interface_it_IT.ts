@@ -9,15 +9,15 @@
     </message>
     <message>
         <source>Simulation beenden</source>
-        <translation>Termina simulazione</translation>
+        <translation>Arresta simulazione</translation>
     </message>
     <message>
         <source>Alarm auslösen</source>
-        <translation>Attiva allarme</translation>
+        <translation>Genera allarme</translation>
     </message>
     <message>
         <source>Alarm beenden</source>
-        <translation>Termina allarme</translation>
+        <translation>Cancella allarme</translation>
     </message>
     <message>
         <source>Bestätigung</source>

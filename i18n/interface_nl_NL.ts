@@ -9,15 +9,15 @@
     </message>
     <message>
         <source>Simulation beenden</source>
-        <translation>Simulatie beëindigen</translation>
+        <translation>Simulatie stoppen</translation>
     </message>
     <message>
         <source>Alarm auslösen</source>
-        <translation>Alarm activeren</translation>
+        <translation>Alarm genereren</translation>
     </message>
     <message>
         <source>Alarm beenden</source>
-        <translation>Alarm beëindigen</translation>
+        <translation>Alarm wissen</translation>
     </message>
     <message>
         <source>Bestätigung</source>
