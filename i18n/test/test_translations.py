@@ -5,6 +5,8 @@
 import json
 import pathlib
 import re
+import subprocess
+import sys
 import unittest
 import xml.etree.ElementTree as ElementTree
 
@@ -34,6 +36,10 @@ class Translations(unittest.TestCase):
         wanted = {row["signature"] for row in rows if re.fullmatch("0x[0-9a-fA-F]+", row["signature"])}
         self.assertEqual(len(wanted), 151)
         self.check("alarms", "Alarm Service", wanted)
+
+    def test_page_of_alarms(self):
+        page = subprocess.run([sys.executable, ROOT / "scripts/alarms-page"], stdout=subprocess.PIPE, check=True).stdout
+        self.assertTrue((ROOT / "docs/alarms.md").read_bytes() == page, "out of date: scripts/alarms-page > docs/alarms.md")
 
     def test_interface(self):
         source = (ROOT / "src/mainwindow.cpp").read_text(encoding="utf-8")
