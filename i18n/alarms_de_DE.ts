@@ -149,11 +149,11 @@
     </message>
     <message>
         <source>0x3215000f</source>
-        <translation>Speicherfolienscanner: Laserabweichung. Kundendienst rufen.</translation>
+        <translation>Folienscanner: Laserleistung weicht ab. Kundendienst rufen.</translation>
     </message>
     <message>
         <source>0x32150017</source>
-        <translation>Speicherfolienscanner: Scan nicht rechtzeitig beendet.</translation>
+        <translation>Folienscanner: Scan nicht rechtzeitig abgeschlossen.</translation>
     </message>
     <message>
         <source>0x321b001e</source>
@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>0x32278010</source>
-        <translation>Quillon Pulse: Registrierung abgelehnt. Netz und Code prüfen.</translation>
+        <translation>Quillon Pulse: nicht registriert. Netzwerk und Code prüfen.</translation>
     </message>
     <message>
         <source>0x322d0011</source>
@@ -373,11 +373,11 @@
     </message>
     <message>
         <source>0x48240029</source>
-        <translation>Der Datenimport wurde mit Warnungen abgeschlossen.</translation>
+        <translation>Datenimport mit Warnungen abgeschlossen.</translation>
     </message>
     <message>
         <source>0x4824002a</source>
-        <translation>Der Datenimport wurde vom Benutzer abgebrochen.</translation>
+        <translation>Datenimport vom Benutzer abgebrochen.</translation>
     </message>
     <message>
         <source>0x48240100</source>
@@ -397,7 +397,7 @@
     </message>
     <message>
         <source>0x48240104</source>
-        <translation>Der Datenimport war unvollständig.</translation>
+        <translation>Datenimport unvollständig.</translation>
     </message>
     <message>
         <source>0x48240200</source>
@@ -405,7 +405,7 @@
     </message>
     <message>
         <source>0x48250025</source>
-        <translation>Der Datenexport ist fehlgeschlagen.</translation>
+        <translation>Datenexport fehlgeschlagen.</translation>
     </message>
     <message>
         <source>0x51010013</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>0x68210025</source>
-        <translation>Der Datenexport wurde abgeschlossen.</translation>
+        <translation>Datenexport abgeschlossen.</translation>
     </message>
     <message>
         <source>0x68220026</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>0x68240029</source>
-        <translation>Der Datenimport wurde erfolgreich abgeschlossen.</translation>
+        <translation>Datenimport erfolgreich abgeschlossen.</translation>
     </message>
     <message>
         <source>0x68258010</source>

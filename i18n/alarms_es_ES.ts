@@ -149,11 +149,11 @@
     </message>
     <message>
         <source>0x3215000f</source>
-        <translation>Escáner de placas de fósforo: láser anómalo. Avisar al SAT.</translation>
+        <translation>Escáner de placas: potencia láser anómala. Avisar al SAT.</translation>
     </message>
     <message>
         <source>0x32150017</source>
-        <translation>Escáner de placas de fósforo: tiempo de lectura excedido.</translation>
+        <translation>Escáner de placas: tiempo de lectura excedido.</translation>
     </message>
     <message>
         <source>0x321b001e</source>

@@ -149,11 +149,11 @@
     </message>
     <message>
         <source>0x3215000f</source>
-        <translation>Scanner d’écrans à mémoire : laser déréglé. Appeler le SAV.</translation>
+        <translation>Scanner ERLM : puissance laser anormale. Appeler le SAV.</translation>
     </message>
     <message>
         <source>0x32150017</source>
-        <translation>Scanner d’écrans à mémoire : délai de lecture dépassé.</translation>
+        <translation>Scanner ERLM : délai de lecture dépassé.</translation>
     </message>
     <message>
         <source>0x321b001e</source>
@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>0x322e0023</source>
-        <translation>Intervalle de maintenance dépassé. Ne plus utiliser.</translation>
+        <translation>Intervalle de maintenance dépassé. Ne pas utiliser.</translation>
     </message>
     <message>
         <source>0x322f0009</source>

@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>0x3215000f</source>
-        <translation>Scanner ai fosfori: laser anomalo. Chiamare l’assistenza.</translation>
+        <translation>Scanner ai fosfori: potenza laser errata. Chiamare l’assistenza.</translation>
     </message>
     <message>
         <source>0x32150017</source>

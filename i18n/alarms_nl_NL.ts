@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>0x322e0023</source>
-        <translation>Onderhoudsinterval overschreden. Niet meer gebruiken.</translation>
+        <translation>Onderhoudsinterval overschreden. Niet gebruiken.</translation>
     </message>
     <message>
         <source>0x322f0009</source>
