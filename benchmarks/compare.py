@@ -251,12 +251,17 @@ def fairness_table(bench, seconds):
     return markdown_table(["", *(f"{masters} masters" for masters in crowds)], rows)
 
 
+def title(neighbours):
+    return neighbours[0] if len(neighbours) == 1 else "all of these" if neighbours else "none"
+
+
 def stall_table(bench, seconds):
     rows = []
-    for neighbour in stalls.NEIGHBOURS:
+    single = [[name] for name in stalls.NEIGHBOURS]
+    for neighbours in [[], *single, list(stalls.NEIGHBOURS)]:
         with bench.running(bench.simulator):
-            answers, longest = stalls.measure(neighbour, seconds)
-            rows.append([neighbour, f"{answers / seconds:.0f}", f"{longest:.1f}"])
+            answers, longest = stalls.measure(neighbours, seconds)
+            rows.append([title(neighbours), f"{answers / seconds:.0f}", f"{longest:.1f}"])
     return markdown_table(["neighbours", "answers a second", "longest wait, ms"], rows)
 
 

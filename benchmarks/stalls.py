@@ -81,7 +81,6 @@ def behind_dead_link():
 
 
 NEIGHBOURS = {
-    "nobody": lambda: time.sleep(3600),
     "1 asks for 2,000 registers, never reads": lambda: ask_for_ever(join(1), READ_2000),
     "1 asks for 2,000 registers, reads 300 kB/s": lambda: ask_for_ever(join(1), READ_2000, read=300),
     "16 ask for 12 registers, never read": lambda: ask_for_ever(join(16, segment=88), READ_12),
@@ -104,12 +103,15 @@ def good_master(seconds):
     return answers, 1000 * longest
 
 
-def measure(neighbour, seconds):
-    """The good master's figures, from a little before the neighbours arrive."""
-    neighbours = multiprocessing.get_context("fork").Process(target=NEIGHBOURS[neighbour], daemon=True)
-    neighbours.start()
+def measure(neighbours, seconds):
+    """The good master's figures, from a little before the neighbours of the given names arrive."""
+    fork = multiprocessing.get_context("fork")
+    processes = [fork.Process(target=NEIGHBOURS[name], daemon=True) for name in neighbours]
+    for process in processes:
+        process.start()
     try:
         return good_master(seconds)
     finally:
-        neighbours.kill()
-        neighbours.join()
+        for process in processes:
+            process.kill()
+            process.join()

@@ -7,15 +7,18 @@ import contextlib
 import ctypes
 import os
 import resource
-import select
 import socket
 import subprocess
+import sys
 import time
 import unittest
 import unittest.mock
 import uuid
 
 import harness
+
+sys.path.append(os.path.join(os.path.dirname(__file__), "../../benchmarks"))
+import stalls  # noqa: E402
 
 CONFIGURATION = "Pelmora/Ravel Monitor Orbis Simulator"
 READ_PRESSURE = bytes.fromhex("0001 0000 0006 01 03 0FCA 0002")
@@ -115,10 +118,14 @@ class Torture(harness.TestCase):
         self.assertEqual(simulator.process.wait(harness.DEADLINE), 0)
         self.assertEqual(idle.recv(1), b"")
 
+    def test_masters_that_do_not_read(self):
+        simulator = self.start()
+        self.check_served(self.connect())  # it serves
+        stalls.measure(stalls.NEIGHBOURS, 5)
+        self.assertNotIn("Write timeout.", simulator.log())
+
     def test_load(self):
         simulator = self.start()
-        for _ in range(20):  # the first 16 are watched in another way than those to come
-            self.check_served(self.connect())
         master = self.connect()
         with self.subTest("1,000 datagrams a second"), socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as flood:
             end = time.monotonic() + 2
@@ -127,19 +134,6 @@ class Torture(harness.TestCase):
                     flood.sendto(request, ("127.0.0.1", 45123))
                 self.check_served(master)
                 time.sleep(0.01)
-
-        with self.subTest("a master that does not read"):
-            stuck = self.connect()
-            stuck.setblocking(False)
-            with contextlib.suppress(BlockingIOError):
-                for _ in range(20000):
-                    stuck.sendall(READ_EVERYTHING)
-            for _ in range(100):
-                self.check_served(master)
-            while select.select([stuck], [], [], 3)[0]:
-                stuck.recv(1 << 20)
-            stuck.settimeout(harness.DEADLINE)
-            self.check_served(stuck)
 
         with self.subTest("connections that come and go"):
             descriptors = f"/proc/{simulator.process.pid}/fd"
