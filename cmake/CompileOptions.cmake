@@ -25,11 +25,14 @@ target_compile_definitions(simulator_options INTERFACE
 target_compile_options(simulator_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
     -Wcast-qual -Wformat=2 -Wundef -Wextra-semi
+    -fstack-protector-strong
+    "$<$<CONFIG:Release>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>" # needs optimisation; the sanitizers check more
     # Log lines name files relative to the project: the place of a build leaves no trace in the program.
     "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/="
     # Qt's category macros leave their variadic argument empty at every streamed log line.
     $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>
     $<$<BOOL:${SIMULATOR_WERROR}>:-Werror>)
+target_link_options(simulator_options INTERFACE -fstack-protector-strong) # mingw-w64 has it in a library
 
 if(SIMULATOR_SANITIZERS)
     set(sanitizer_flags "-fsanitize=${SIMULATOR_SANITIZERS}" -fno-sanitize-recover=all -fno-omit-frame-pointer)
