@@ -1,8 +1,13 @@
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
 
-# Run by CPack on the staged package: the installer takes the files in alphabetical order instead of the file
-# system's, so that two builds of one commit give the same bytes.
+# Run by CPack on the staged package: SIGN_COMMAND signs the program. The installer takes the files in alphabetical
+# order instead of the file system's, so that two builds of one commit give the same bytes.
+
+if(NOT "$ENV{SIGN_COMMAND}" STREQUAL "")
+    execute_process(COMMAND sh -c "$SIGN_COMMAND \"$0\"" "${CPACK_TEMPORARY_DIRECTORY}/${CPACK_PACKAGE_NAME}.exe"
+        COMMAND_ERROR_IS_FATAL ANY)
+endif()
 
 if(CPACK_GENERATOR STREQUAL "NSIS")
     file(GLOB_RECURSE entries LIST_DIRECTORIES ON RELATIVE "${CPACK_TEMPORARY_DIRECTORY}"

@@ -14,6 +14,9 @@ import harness
 
 PROGRAM = pathlib.Path(os.environ["SIMULATOR"])
 INSTALLED = pathlib.Path(os.environ["WINEPREFIX"], "drive_c/Program Files/Pelmora/Ravel Monitor Orbis Simulator")
+UNINSTALL_KEY = r"HKLM\Software\Microsoft\Windows\CurrentVersion\Uninstall\RavelMonitorOrbisSimulator"
+IDENTITY = pathlib.Path(os.environ["PROGRAMDATA"], "Pelmora/Ravel Monitor Orbis Simulator/sn_cache")
+SCRATCH = pathlib.Path(os.environ["TMPDIR"])
 START_MENU_ENTRY = pathlib.Path(os.environ["PROGRAMDATA"],
                                 "Microsoft/Windows/Start Menu/Programs/Ravel Monitor Orbis Simulator.lnk")
 
@@ -59,19 +62,41 @@ class Package(unittest.TestCase):
         expected = {str(path) for path in PROGRAM.parent.rglob("*")
                     if path.suffix in (".exe", ".dll") and path.name != "qoffscreen.dll"}
         self.assertEqual(loaded, expected)
+        for accompanying in ("docs/running.md", "examples/ask.py", "wireshark/orbis.lua", "licences/SOURCES.txt"):
+            self.assertTrue((PROGRAM.parent / accompanying).exists(), accompanying)
 
-    def test_installer(self):
+    def test_signed_installer_and_one_over_it(self):
+        key, stale = SCRATCH / "key.pem", INSTALLED / "stale/file.txt"
+        subprocess.run(["openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-subj", "/CN=Throw-away", "-addext",
+                        "extendedKeyUsage=codeSigning", "-keyout", key, "-out", key], check=True)
+        pathlib.Path(SCRATCH, "more/stale").mkdir(parents=True)
+        pathlib.Path(SCRATCH, "more/stale/file.txt").touch()
+        subprocess.run(["cpack", "-G", "NSIS", "-B", SCRATCH, "--config", os.environ["CPACK_CONFIGURATION"],
+                        "-D", f"CPACK_INSTALLED_DIRECTORIES={SCRATCH}/more;."], check=True,
+                       env={**os.environ, "SIGN_COMMAND": f"{pathlib.Path(__file__).parent}/sign {key}"})
+        signed, = SCRATCH.glob("*-setup.exe")
+        run(signed, "/S")
+        for file in (signed, INSTALLED / PROGRAM.name, INSTALLED / "Uninstall.exe"):
+            subprocess.run(["osslsigncode", "verify", "-CAfile", key, "-in", file], check=True)
+        self.assertTrue(stale.exists())
+        IDENTITY.write_text("THE SAME DEVICE", encoding="utf-8")
+
         commands = run(os.environ["SIMULATOR_INSTALLER"], "/S")
-        for expected in ["dir=in action=allow protocol=TCP localport=502 program=",
-                         "dir=in action=allow protocol=UDP localport=45123,45124 program=",
+        for expected in ["dir=in action=allow profile=private,domain protocol=TCP localport=502 program=",
+                         "dir=in action=allow profile=private,domain protocol=UDP localport=45123,45124 program=",
                          "/grant *S-1-5-32-545:(OI)(CI)M"]:
             self.assertIn(expected, commands)
         self.assertTrue(START_MENU_ENTRY.exists())
+        self.assertFalse(stale.parent.exists())
+        size = subprocess.check_output(["wine", "reg", "query", UNINSTALL_KEY, "/v", "EstimatedSize"], text=True).split()[-1]
+        files = sum(path.stat().st_size for path in INSTALLED.rglob("*") if path.is_file())
+        self.assertAlmostEqual(int(size, 16) * 1024 / files, 1, delta=0.05)
 
         self.start(INSTALLED / PROGRAM.name).stop()
         self.assertIn("delete rule name=", run(INSTALLED / "Uninstall.exe", "/S"))
         self.assertFalse(INSTALLED.parent.exists())
         self.assertFalse(START_MENU_ENTRY.exists())
+        self.assertEqual(IDENTITY.read_text(encoding="utf-8"), "THE SAME DEVICE")
 
     def test_double_click(self):
         """The console that Windows opens with the program is minimised to its title bar."""
