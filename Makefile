@@ -31,10 +31,14 @@ lint:
 	@scripts/require-packages $(lint_packages)
 	scripts/lint
 
-# Leaves what it makes in dist/.
+# Leaves what it makes in dist/: all that a release hands out.
 package:
+	@scripts/require-packages git python3
+	rm -rf dist
 	scripts/package-windows
 	scripts/package-linux
+	SOURCE_DATE_EPOCH=$$(git log -1 --format=%ct) scripts/bill-of-materials dist > dist/RavelMonitorOrbisSimulator.cdx.json
+	cd dist && sha256sum * > SHA256SUMS
 
 bench:
 	@scripts/require-packages $(test_packages) libqt5serialbus5-dev libbenchmark-dev nodejs
