@@ -8,7 +8,6 @@
 
 #include <QFile>
 #include <QNetworkInterface>
-#include <QTcpServer>
 #include <QTextStream>
 #include <QUdpSocket>
 
@@ -112,12 +111,12 @@ QByteArray NetworkHelper::receivePacket(QAbstractSocket *socket, bool *error)
     return data;
 }
 
-void NetworkHelper::widenBacklog(QTcpServer *server)
+void NetworkHelper::widenBacklog(qintptr listeningSocket)
 {
 #ifdef Q_OS_LINUX
-    ::listen(static_cast<int>(server->socketDescriptor()), SOMAXCONN);
+    ::listen(static_cast<int>(listeningSocket), SOMAXCONN);
 #else
-    Q_UNUSED(server) // fixed elsewhere once the server listens
+    Q_UNUSED(listeningSocket) // fixed elsewhere once the server listens
 #endif
 }
 

@@ -12,7 +12,6 @@
 #include <QVector>
 
 class QAbstractSocket;
-class QTcpServer;
 class QUdpSocket;
 
 // Stateless network operations: blocking transfer of one packet, validation of address texts.
@@ -41,9 +40,9 @@ public:
     static QByteArray receivePacket(QAbstractSocket *socket, bool *error);
 
     // Lets as many peers as the system allows wait until a listening server accepts them. Qt's own 50 are few
-    // when many connect at once: the system then drops their attempts and they try again after a second or
-    // more.
-    static void widenBacklog(QTcpServer *server);
+    // when many connect at once: over TCP the system drops their attempts and they try again after a second
+    // or more, on a local socket they try again without a pause.
+    static void widenBacklog(qintptr listeningSocket);
 
     // Six groups of hexadecimal digits, loosely: groups of up to four characters and runs of "-" as
     // separators pass, as some drivers report them.

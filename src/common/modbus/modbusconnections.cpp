@@ -45,7 +45,7 @@ bool ModbusConnections::start(quint16 port)
     if (!listen(QHostAddress::Any, port)) {
         return false;
     }
-    NetworkHelper::widenBacklog(this);
+    NetworkHelper::widenBacklog(socketDescriptor());
     return true;
 }
 
