@@ -54,6 +54,23 @@ private slots:
         QTRY_VERIFY(listener->m_server.findChildren<QLocalSocket *>().isEmpty());
     }
 
+    // Whoever has something to say is heard, however many others are silent.
+    void crowd()
+    {
+        UrlListenerPeer peer(nullptr, "channel"_s);
+        peer.startServer();
+        QSignalSpy urls(&peer, SIGNAL(urlReceived(QUrl)));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Too many senders are silent, "_s));
+        std::array<QLocalSocket, 400> silent;
+        for (QLocalSocket &sender : silent) {
+            sender.connectToServer("channel"_s);
+        }
+        for (int i = 0; i < 200; ++i) {
+            QVERIFY(peer.sendUrl(QUrl("x:%1"_s.arg(i))));
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(urls.count(), 200, 30000);
+    }
+
     void nobodyThere()
     {
         QVERIFY_EXCEPTION_THROWN(UrlListenerPeer::instance("unknown"_s), std::bad_alloc);

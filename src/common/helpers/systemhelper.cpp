@@ -179,6 +179,13 @@ int SystemHelper::maximumDescriptors()
     return unlimited;
 }
 
+int SystemHelper::channelDescriptors()
+{
+    // Senders write as soon as they are connected, so that only those of one moment are here at a time: 256
+    // are more than a script starts at once. Where descriptors are few, most are for the Modbus masters.
+    return std::min(256, maximumDescriptors() / 4);
+}
+
 bool SystemHelper::isUserAdmin()
 {
 #ifdef Q_OS_WIN

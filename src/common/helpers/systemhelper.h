@@ -47,6 +47,9 @@ public:
     // How many descriptors the process may open, sockets included.
     static int maximumDescriptors();
 
+    // How many of them the single-instance channel takes at the most.
+    static int channelDescriptors();
+
     // Whether the process has administrator rights.
     static bool isUserAdmin();
 };

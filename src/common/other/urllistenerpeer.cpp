@@ -4,6 +4,8 @@
 #include "common/other/urllistenerpeer.h"
 
 #include "common/helpers/loggingcategories.h"
+#include "common/helpers/networkhelper.h"
+#include "common/helpers/systemhelper.h"
 #include "common/other/urllistenerpeer_p.h"
 
 #include <QLocalSocket>
@@ -15,8 +17,6 @@
 namespace {
 
 constexpr int transferTimeoutMs = 30000;
-// Qt's server closes for good when descriptors run out, and anybody on this machine may connect.
-constexpr int maximumSenders = 16;
 constexpr int streamVersion = QDataStream::Qt_5_6; // all instances speak it, whatever Qt they were built with
 constexpr quint32 nullLength = 0xFFFFFFFF;
 
@@ -37,7 +37,7 @@ bool holdsMessage(QIODevice *device)
 } // namespace
 
 UrlListenerPeerPrivate::UrlListenerPeerPrivate(UrlListenerPeer *owner, const QString &name)
-    : QObject(owner), m_name(name), q(owner)
+    : QObject(owner), m_name(name), q(owner), m_maximumSenders(SystemHelper::channelDescriptors())
 {
     m_stream.setVersion(streamVersion);
     peers->insert(name, owner);
@@ -58,16 +58,43 @@ void UrlListenerPeerPrivate::newConnection()
 {
     emit newInstance();
     while (m_server.hasPendingConnections()) {
-        QLocalSocket *socket = m_server.nextPendingConnection();
-        if (m_server.findChildren<QLocalSocket *>(QString(), Qt::FindDirectChildrenOnly).size()
-            > maximumSenders) {
-            delete socket;
-            continue;
-        }
-        connect(socket, SIGNAL(readyRead()), this, SLOT(readUrl()));
-        connect(socket, SIGNAL(disconnected()), socket, SLOT(deleteLater()));
-        // Senders that stay silent would otherwise use up the descriptors of the process.
-        QTimer::singleShot(transferTimeoutMs, socket, &QLocalSocket::abort);
+        admit(m_server.nextPendingConnection());
+    }
+}
+
+// Qt's server closes for good when descriptors run out, and anybody on this machine may connect and stay
+// silent: for 30 seconds, or until there are too many. Who hands over a URL writes it on connecting, so the
+// longest silent one has the least to say, and a newcomer is heard whoever else is there.
+void UrlListenerPeerPrivate::admit(QLocalSocket *sender)
+{
+    m_silentSenders.append(sender);
+    connect(sender, SIGNAL(readyRead()), this, SLOT(readUrl()));
+    // The server is the receiver, so that sockets which it deletes at the end of its life find nobody to
+    // tell.
+    connect(sender, &QLocalSocket::disconnected, &m_server, [this, sender] {
+        m_silentSenders.removeOne(sender);
+        m_isCrowded = m_isCrowded && !m_silentSenders.isEmpty();
+        sender->deleteLater();
+    });
+    auto *silence = new QTimer(sender);
+    connect(silence, &QTimer::timeout, sender, &QLocalSocket::abort);
+    silence->start(transferTimeoutMs);
+
+    if (m_silentSenders.size() > m_maximumSenders) {
+        dropLongestSilent();
+    }
+}
+
+void UrlListenerPeerPrivate::dropLongestSilent()
+{
+    if (!m_isCrowded) {
+        m_isCrowded = true;
+        qCWarning(lcCore) << "Too many senders are silent, the longest silent ones are cut off. Connected are"
+                          << m_silentSenders.size();
+    }
+    QLocalSocket *sender = m_silentSenders.takeFirst();
+    if (!sender->waitForReadyRead(0)) { // otherwise it has just been read
+        sender->abort();
     }
 }
 
@@ -117,7 +144,9 @@ void UrlListenerPeer::startServer()
     qCDebug(lcCore) << "Listening for: " << d->m_name;
     QLocalServer::removeServer(d->m_name);
     d->m_server.setSocketOptions(QLocalServer::WorldAccessOption);
-    if (!d->m_server.listen(d->m_name)) {
+    if (d->m_server.listen(d->m_name)) {
+        NetworkHelper::widenBacklog(d->m_server.socketDescriptor());
+    } else {
         qCWarning(lcCore) << d->m_server.errorString()
                           << "ErrorCode:" << static_cast<int>(d->m_server.serverError());
     }

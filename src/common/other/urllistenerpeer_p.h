@@ -6,10 +6,12 @@
 #pragma once
 
 #include <QDataStream>
+#include <QList>
 #include <QLocalServer>
 #include <QObject>
 #include <QString>
 
+class QLocalSocket;
 class UrlListenerPeer;
 
 class UrlListenerPeerPrivate : public QObject
@@ -34,5 +36,12 @@ private slots:
     void readUrl();
 
 private:
+    void admit(QLocalSocket *sender);
+    void dropLongestSilent();
     QUrl readMessage(QIODevice *device);
+
+    // Who has connected and said nothing yet, the longest silent first.
+    QList<QLocalSocket *> m_silentSenders;
+    const int m_maximumSenders;
+    bool m_isCrowded = false; // from the first sender too many until all are gone
 };
