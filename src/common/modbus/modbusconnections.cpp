@@ -22,14 +22,15 @@ constexpr int acceptsPerTurn = 16;
 
 constexpr int restartDelayMs = 1000;
 
-// For the window, discovery, files and the single-instance channel.
-constexpr int reservedDescriptors = 48;
+// For the window, discovery and files; the single-instance channel has its own.
+constexpr int reservedDescriptors = 32;
 
 } // namespace
 
 ModbusConnections::ModbusConnections(const Predicate &takesLong, QObject *parent)
     : QTcpServer(parent), m_takesLong(takesLong), m_watch(new SocketWatch(this)),
-      m_maximumMasters(std::max(1, SystemHelper::maximumDescriptors() - reservedDescriptors))
+      m_maximumMasters(std::max(1, SystemHelper::maximumDescriptors() - SystemHelper::channelDescriptors()
+                                       - reservedDescriptors))
 {
     m_buffer.reserve(readSize);
     m_restartTimer.setSingleShot(true);
