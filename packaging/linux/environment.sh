@@ -5,8 +5,6 @@
 
 # The program's own default is a Windows path. Per user, since whoever starts it has to be able to write there.
 export PROGRAMDATA="${PROGRAMDATA:-${XDG_DATA_HOME:-$HOME/.local/share}}"
-# Qt's own event loop answers about a fifth more requests than GLib's.
-export QT_NO_GLIB=1
 
 if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}${QT_QPA_PLATFORM:-}" ]; then
     echo "There is no display: the window is drawn off screen, everything else works as usual."
