@@ -6,7 +6,7 @@
 Run through tests/isolated, which gives it a network of its own with port 502 free. Every cell of the comparison is
 a fresh process under the same load, the servers taking turns (A B C A B C ...) so that a change of the machine's
 mood meets all of them. Shares are taken within a round and the median of all rounds is shown. All servers with Qt
-inside run without GLib's event loop, as the simulator's own launcher has it.
+inside run without GLib's event loop: the simulator decides so by itself, the others are told.
 """
 
 import argparse
@@ -20,7 +20,7 @@ import subprocess
 import sys
 import tempfile
 import time
-from dataclasses import dataclass
+from dataclasses import dataclass, field
 from pathlib import Path
 
 import stalls
@@ -52,6 +52,7 @@ class Server:
     name: str
     command: tuple  # "{answer}" stands for the PDU that a server with a fixed answer gives
     answers: dict  # kind of request to the PDU expected
+    environment: dict = field(default_factory=dict)
 
 
 @dataclass(frozen=True)
@@ -84,21 +85,21 @@ class Bench:
         peers = Path(__file__).with_name("peers")
         self.simulator = Server("simulator", (build / "RavelMonitorOrbisSimulator",), DEVICE_ANSWERS)
         fixed_answer = (PORT, "{answer}")
+        no_glib = {"QT_NO_GLIB": "1"}
         self.floor = Server("floor", (programs / "peer_floor", *fixed_answer), DEVICE_ANSWERS)
-        self.bare_qt = Server("bare Qt window", (programs / "peer_bareqt", *fixed_answer), DEVICE_ANSWERS)
+        self.bare_qt = Server("bare Qt window", (programs / "peer_bareqt", *fixed_answer), DEVICE_ANSWERS, no_glib)
         self.servers = (
             self.floor,
             self.simulator,
             self.bare_qt,
             Server("libmodbus", (programs / "peer_libmodbus", PORT), STANDARD_ANSWERS),
-            Server("Qt Serial Bus", (programs / "peer_qtserialbus", PORT), STANDARD_ANSWERS),
+            Server("Qt Serial Bus", (programs / "peer_qtserialbus", PORT), STANDARD_ANSWERS, no_glib),
             Server("Node", ("node", peers / "node_server.js", PORT), STANDARD_ANSWERS),
             Server("pymodbus", (python, peers / "pymodbus_server.py", PORT), STANDARD_ANSWERS),
         )
         self.environment = dict(
             os.environ,
             QT_QPA_PLATFORM="offscreen",
-            QT_NO_GLIB="1",
             PROGRAMDATA=str(scratch),
             XDG_RUNTIME_DIR=str(scratch),
         )
@@ -110,7 +111,7 @@ class Bench:
         begin = time.monotonic()
         process = subprocess.Popen(
             command,
-            env={**self.environment, **environment},
+            env={**self.environment, **server.environment, **environment},
             stdout=subprocess.DEVNULL,
             stderr=subprocess.DEVNULL,
         )
