@@ -24,8 +24,10 @@
 #include <qt_windows.h>
 #else
 #include <QSocketNotifier>
+#include <atomic>
 #include <csignal>
-#include <sys/signalfd.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
 #endif
 
 namespace {
@@ -76,30 +78,43 @@ void preferQtEventLoop()
     }
 }
 
-// Descriptor on which requests to terminate can be read from now on; they no longer end the process by
-// themselves. Where there is no descriptor to be had (-1) they still do. To be called before any thread is
-// started, and some platform plugins start one with the application object: threads inherit that these
-// signals are blocked.
-int catchTermination()
-{
-    sigset_t requests;
-    sigemptyset(&requests);
-    sigaddset(&requests, SIGTERM);
-    sigaddset(&requests, SIGINT);
-    const int descriptor = signalfd(-1, &requests, SFD_CLOEXEC);
-    if (descriptor >= 0) {
-        pthread_sigmask(SIG_BLOCK, &requests, nullptr);
-    }
-    return descriptor;
-}
+int terminationEvent = -1;
 
-void quitOnTermination(int descriptor)
+// The first request ends the event loop. Where that is stuck, in a write to a log that nobody reads, a second
+// one ends the process as if nothing had been caught. May interrupt any thread anywhere.
+void requestTermination(int number)
 {
-    if (descriptor < 0) {
+    static std::atomic_flag isRequested = ATOMIC_FLAG_INIT;
+    if (isRequested.test_and_set()) {
+        (void)std::signal(number, SIG_DFL);
+        (void)std::raise(number);
         return;
     }
-    auto *notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, qApp);
+    const quint64 one = 1;
+    [[maybe_unused]] const auto written = write(terminationEvent, &one, sizeof one);
+}
+
+// To be called right before the event loop runs: until then nobody would act on a request, so that it has to
+// end the process by itself. What whoever started the program had it ignore stays ignored.
+void leaveTerminationToEventLoop()
+{
+    terminationEvent = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+    if (terminationEvent < 0) {
+        return;
+    }
+    auto *notifier = new QSocketNotifier(terminationEvent, QSocketNotifier::Read, qApp);
     QObject::connect(notifier, &QSocketNotifier::activated, qApp, &QCoreApplication::quit);
+
+    struct sigaction action = {};
+    action.sa_handler = requestTermination;
+    action.sa_flags = SA_RESTART; // the log line that it interrupts is not lost
+    for (const int number : {SIGTERM, SIGINT}) {
+        struct sigaction previous = {};
+        sigaction(number, nullptr, &previous);
+        if (previous.sa_handler != SIG_IGN) {
+            sigaction(number, &action, nullptr);
+        }
+    }
 }
 #endif
 
@@ -194,7 +209,6 @@ int main(int argc, char *argv[])
 #ifdef Q_OS_WIN
     prepareConsole();
 #else
-    const int termination = catchTermination();
     (void)std::signal(SIGPIPE, SIG_IGN); // whoever reads the log may leave
     preferQtEventLoop();
     SystemHelper::raiseDescriptorLimit();
@@ -216,9 +230,6 @@ int main(int argc, char *argv[])
     }
     qInfo() << "This is the first instance";
     UrlListenerPeer::instance(applicationKey())->startServer();
-#ifndef Q_OS_WIN
-    quitOnTermination(termination);
-#endif
 
     const Options options = readCommandLine();
     // Not before the application object exists: with this file's plugin path it would find no platform
@@ -240,5 +251,8 @@ int main(int argc, char *argv[])
     window->setSerialNumber(SystemHelper::getIdentifier());
     window->show();
     LogWriter::install();
+#ifndef Q_OS_WIN
+    leaveTerminationToEventLoop();
+#endif
     return QApplication::exec();
 }

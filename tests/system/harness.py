@@ -85,14 +85,18 @@ def command(*arguments, program="SIMULATOR"):
     return shlex.split(os.environ.get("SIMULATOR_LAUNCHER", "")) + [os.environ[program], *arguments]
 
 
-def write_to_channel(message):
-    """Connects to the single-instance channel, writes the bytes and hangs up."""
+def write_to_channel(message, directory=None):
+    """Connects to the single-instance channel, writes the bytes and hangs up; on Linux the program has then done so too."""
     if "CHANNEL_WRITER" in os.environ:
         subprocess.run(command(message.hex(), program="CHANNEL_WRITER"), check=True)
         return
     with socket.socket(socket.AF_UNIX) as channel:
-        channel.connect(os.path.join(os.environ["TMPDIR"], "RavelMonitorOrbisSimulator"))
+        path = os.path.join(directory or os.environ["TMPDIR"], "RavelMonitorOrbisSimulator")
+        wait_until(lambda: channel.connect_ex(path) == 0, "the channel")
+        channel.settimeout(DEADLINE)
         channel.sendall(message)
+        channel.shutdown(socket.SHUT_WR)
+        channel.recv(1)
 
 
 def connect():
@@ -113,6 +117,7 @@ def ask(master, function_code, data):
 class Simulator:
     def __init__(self, arguments, environment):
         self._log = tempfile.NamedTemporaryFile()
+        self._channel_directory = environment.get("TMPDIR")
         self.process = subprocess.Popen(command(*arguments), env={**os.environ, **environment}, stdin=subprocess.DEVNULL,
                                         stdout=self._log, stderr=subprocess.STDOUT)
 
@@ -128,6 +133,8 @@ class Simulator:
         """Ends the program, which must do so cleanly (a leak checker speaks up here); once is enough."""
         if self.process.returncode is None:
             assert self.process.poll() is None, f"ended on its own with {self.process.poll()}:\n{self.log()}"
+            if "CHANNEL_WRITER" not in os.environ:  # a request to terminate during start-up ends it at once
+                write_to_channel(b"", self._channel_directory)
             self.process.terminate()
             code = self.process.wait(DEADLINE)
             assert code == 0, f"ended with {code}:\n{self.log()}"

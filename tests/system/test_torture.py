@@ -7,6 +7,7 @@ import contextlib
 import ctypes
 import os
 import resource
+import signal
 import socket
 import subprocess
 import sys
@@ -123,6 +124,35 @@ class Torture(harness.TestCase):
         self.check_served(self.connect())  # it serves
         stalls.measure(stalls.NEIGHBOURS, 5)
         self.assertNotIn("Write timeout.", simulator.log())
+
+    def test_terminated_during_start_up(self):
+        path = os.path.join(os.environ["TMPDIR"], "RavelMonitorOrbisSimulator")
+        with socket.socket(socket.AF_UNIX) as listener, socket.socket(socket.AF_UNIX) as only_place:
+            listener.bind(path)
+            listener.listen(0)
+            only_place.connect(path)
+            simulator = self.start()
+            simulator.wait_for_log("Checking for previous instance...")
+            simulator.process.terminate()
+            self.assertEqual(simulator.process.wait(harness.DEADLINE / 2), -signal.SIGTERM)
+
+    def test_terminated_while_nobody_reads_its_log(self):
+        with subprocess.Popen(harness.command(), stdout=subprocess.PIPE, stderr=subprocess.STDOUT) as program:
+            self.connect().sendall(READ_EVERYTHING)
+            next(line for line in program.stdout if b"No register set" in line)
+            # More than once: a request that meets one still on its way is lost.
+            harness.wait_until(lambda: program.terminate() or program.poll(), "the end")
+        self.assertEqual(program.returncode, -signal.SIGTERM)
+
+    def test_interruption_is_ignored(self):
+        """As in trap '' INT; simulator &"""
+        previous = signal.signal(signal.SIGINT, signal.SIG_IGN)
+        simulator = self.start()
+        signal.signal(signal.SIGINT, previous)
+        master = self.connect()
+        simulator.process.send_signal(signal.SIGINT)
+        for _ in range(3):
+            self.check_served(master)
 
     def test_load(self):
         simulator = self.start()
