@@ -124,6 +124,21 @@ private slots:
         }
     }
 
+    void reportsDuringStandstill()
+    {
+        OrvetPeer peer;
+        QSignalSpy reports(&peer, SIGNAL(getResponseReceived(OrvetInformation)));
+        peer.start(requestPort, responsePort);
+        QTest::ignoreMessage(QtWarningMsg, "Dropping responses until those received are dealt with: 1000");
+        for (int i = 0; i < 1500; ++i) {
+            broadcast(m_sender, "g 02:00:00:00:00:01\tkey=value", responsePort);
+            peer.value("key"_s); // the other thread has a turn
+            peer.value("key"_s);
+        }
+        QCoreApplication::processEvents();
+        QCOMPARE(reports.count(), 1000);
+    }
+
     // What must stay unanswered is followed by a request whose answer then has to come first.
     void answersOnTheWire()
     {

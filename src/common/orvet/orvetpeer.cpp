@@ -8,7 +8,7 @@
 #include <QThread>
 
 OrvetPeerPrivate::OrvetPeerPrivate(OrvetPeer *q)
-    : QObject(q), m_worker(new OrvetPeerWorker), m_thread(new QThread(this))
+    : QObject(q), m_worker(new OrvetPeerWorker(&m_undeliveredReports)), m_thread(new QThread(this))
 {
     m_thread->setObjectName(QStringLiteral("Orvet"));
     m_worker->moveToThread(m_thread);
@@ -18,6 +18,8 @@ OrvetPeerPrivate::OrvetPeerPrivate(OrvetPeer *q)
             SIGNAL(getResponseReceived(OrvetInformation)), Qt::QueuedConnection);
     connect(m_worker, SIGNAL(error(OrvetPeer::OrvetError)), q, SIGNAL(error(OrvetPeer::OrvetError)),
             Qt::QueuedConnection);
+    connect(q, SIGNAL(deviceDiscovered(OrvetInformation)), this, SLOT(countDelivery()));
+    connect(q, SIGNAL(getResponseReceived(OrvetInformation)), this, SLOT(countDelivery()));
     m_thread->start(QThread::InheritPriority);
 }
 
@@ -26,6 +28,11 @@ OrvetPeerPrivate::~OrvetPeerPrivate()
     m_worker->deleteLater();
     m_thread->exit(0);
     m_thread->wait();
+}
+
+void OrvetPeerPrivate::countDelivery()
+{
+    m_undeliveredReports.deref();
 }
 
 OrvetPeer::OrvetPeer(QObject *parent) : QObject(parent), d(new OrvetPeerPrivate(this))

@@ -14,8 +14,8 @@ class OrvetPeerPrivate;
 //
 // All work is done by an OrvetPeerWorker on a thread of its own, which runs as long as the peer exists. The
 // slots only queue a call there and return at once; the calls take effect in their order, those made before
-// start() included. The signals are emitted on the peer's own thread. Destruction waits for the discovery
-// thread to end.
+// start() included. The signals are emitted on the peer's own thread; while that is blocked, a thousand of
+// them are kept. Destruction waits for the discovery thread to end.
 //
 // OrvetInformation and OrvetPeer::OrvetError must be registered as meta-types under these names before a peer
 // is created, or its signals stay silent.

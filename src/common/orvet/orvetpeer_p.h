@@ -7,6 +7,7 @@
 
 #include "common/orvet/orvetpeerworker.h"
 
+#include <QAtomicInt>
 #include <QObject>
 
 class OrvetPeer;
@@ -30,7 +31,11 @@ public:
         QMetaObject::invokeMethod(m_worker, slot, Qt::QueuedConnection, arguments...);
     }
 
+private slots:
+    void countDelivery();
+
 private:
+    QAtomicInt m_undeliveredReports;
     OrvetPeerWorker *m_worker;
     QThread *m_thread;
 };

@@ -20,6 +20,11 @@ constexpr int interfaceCheckIntervalMs = 30000;
 constexpr int datagramsPerTurn = 4;
 constexpr qint64 maximumDatagramSize = 65535;
 
+// Many more than devices answer at once, each in one Ethernet frame. But anybody may send responses, at any
+// rate; waiting, each takes some ten times its size, so that of longer ones fewer may wait.
+constexpr int maximumUndeliveredReports = 1000;
+constexpr int maximumUndeliveredSize = maximumUndeliveredReports * 1500;
+
 bool isSameHardware(const QString &address, const QString &other)
 {
     return address.compare(other, Qt::CaseInsensitive) == 0;
@@ -59,7 +64,7 @@ struct OrvetPeerWorker::SocketRole
     const char *failedText;
 };
 
-OrvetPeerWorker::OrvetPeerWorker()
+OrvetPeerWorker::OrvetPeerWorker(QAtomicInt *undeliveredReports) : m_undeliveredReports(undeliveredReports)
 {
     qRegisterMetaType<StringMap>("StringMap");
 }
@@ -196,13 +201,33 @@ void OrvetPeerWorker::processResponse()
     const QByteArrayList datagrams = takeDatagrams(qobject_cast<QUdpSocket *>(sender()));
     for (const QByteArray &datagram : datagrams) {
         if (datagram.startsWith('d')) {
-            if (const auto information = OrvetPackets::parseDiscoverResponse(datagram)) {
+            const auto information = OrvetPackets::parseDiscoverResponse(datagram);
+            if (information && mayReport(datagram.size())) {
                 emit deviceDiscovered(*information);
             }
-        } else if (datagram.startsWith('g')) {
+        } else if (datagram.startsWith('g') && mayReport(datagram.size())) {
             emit getResponseReceived(OrvetPackets::parseGetResponse(datagram));
         }
     }
+}
+
+// Also counts the report that is about to be made.
+bool OrvetPeerWorker::mayReport(int size)
+{
+    if (!m_undeliveredReports) {
+        return true;
+    }
+    const int undelivered = m_undeliveredReports->loadAcquire();
+    if (undelivered >= maximumUndeliveredReports || undelivered * size > maximumUndeliveredSize) {
+        if (!m_isDropping) {
+            qCWarning(lcOrvet) << "Dropping responses until those received are dealt with:" << undelivered;
+        }
+        m_isDropping = true;
+        return false;
+    }
+    m_isDropping = m_isDropping && undelivered > 0;
+    m_undeliveredReports->ref();
+    return true;
 }
 
 void OrvetPeerWorker::processRequest()

@@ -8,6 +8,7 @@
 #include "common/orvet/orvetpeer.h"
 #include "common/orvet/orvetpeerpackets.h"
 
+#include <QAtomicInt>
 #include <QHash>
 #include <QNetworkAddressEntry>
 #include <QObject>
@@ -29,7 +30,10 @@ class OrvetPeerWorker : public QObject
     Q_OBJECT
 
 public:
-    OrvetPeerWorker();
+    // Who hears the reports on another thread may be late, and has them counted: the worker adds one for
+    // each report, the receiver takes one away when it arrives. Beyond a thousand, of long ones fewer, they
+    // are dropped with a warning.
+    explicit OrvetPeerWorker(QAtomicInt *undeliveredReports = nullptr);
 
     Q_INVOKABLE QString value(const QString &key) const;
 
@@ -79,11 +83,14 @@ private:
                             quint16 responsePort);
     QUdpSocket *openSocket(const SocketRole &role, const NetworkHelper::InterfaceAddress &address,
                            quint16 port);
+    bool mayReport(int size);
     void broadcastRequest(const QByteArray &packet);
     void answer(const QByteArray &request, const QString &hardwareAddress);
     void answerDiscover(const QString &hardwareAddress);
     void answerGet(const QString &hardwareAddress);
 
+    QAtomicInt *const m_undeliveredReports;
+    bool m_isDropping = false; // from the first report too many until all are delivered
     QHash<QString, bool> m_addressStates;
     QTimer *m_interfaceTimer = nullptr; // its existence means that the worker was started
     QString m_name;
