@@ -61,12 +61,16 @@ class Torture(harness.TestCase):
     def test_denied(self):
         no_cache = "Could not write uuid to cache:"
         unreadable = 'Could not read cache file: "die zu öffnende Datei ist ein Verzeichnis" create an uncached identifier.'
+        special = 'Could not read cache file: "No regular file" create an uncached identifier.'
+        at_both = f'for name in sn_cache "Ravel Monitor Orbis Simulator.json"; do %s "{CONFIGURATION}/$name"; done'
         for cause, line, served in [
                 (taken(socket.SOCK_STREAM, 502), "Failed listening on port 502", False),
                 (taken(socket.SOCK_DGRAM, 45123, 45124), 'Failed binding response socket "0.0.0.0" to port 45124', True),
                 (disk("", "mount -o remount,ro ."), no_cache, True),
                 (disk("-o size=4k", "head -c 4096 /dev/zero >filler"), no_cache, True),
-                (disk("", f'mkdir "{CONFIGURATION}/sn_cache"'), unreadable, True)]:
+                (disk("", f'mkdir "{CONFIGURATION}/sn_cache"'), unreadable, True),
+                (disk("", at_both % "mkfifo"), special, True),
+                (disk("", at_both % "ln -s /dev/zero"), special, True)]:
             with self.subTest(line):
                 with cause:
                     self.check_one_run(served).wait_for_log(line)

@@ -7,6 +7,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
 #include <QUuid>
 
 #include <algorithm>
@@ -26,6 +28,9 @@
 
 namespace {
 
+// The program's own have 36 characters. Whoever puts another one there may take more, but not all memory.
+constexpr qint64 maximumIdentifierSize = 65536;
+
 struct ProcessIdentity
 {
     QString configurationPath;
@@ -38,19 +43,25 @@ QString newIdentifier()
     return QUuid::createUuid().toString(QUuid::WithoutBraces);
 }
 
-void writeNewIdentifier(QFile &cache)
+// All or nothing: an empty file left behind would become the identity of every later start.
+void writeNewIdentifier(const QString &path)
 {
-    // A full disk shows up in flush() only. An empty file left behind would become the identity of every
-    // later start, so it goes.
-    if (!cache.open(QIODevice::WriteOnly) || cache.write(newIdentifier().toUtf8()) == -1 || !cache.flush()) {
+    QSaveFile cache(path);
+    // A full disk shows up in flush() only, which commit() would not mind.
+    if (!cache.open(QIODevice::WriteOnly) || cache.write(newIdentifier().toUtf8()) == -1 || !cache.flush()
+        || !cache.commit()) {
         qCWarning(lcModbus) << "Could not write uuid to cache:" << cache.errorString();
-        if (cache.isOpen()) {
-            cache.close();
-            // On its own remove() the file would once more try to flush, and give up.
-            QFile::remove(cache.fileName());
-        }
     }
-    cache.close();
+}
+
+// Opens the cache to be read and returns why that failed, or nothing.
+QString openToRead(QFile &cache)
+{
+    const QFileInfo info(cache);
+    if (info.exists() && !info.isFile() && !info.isDir()) {
+        return QStringLiteral("No regular file"); // a FIFO waits for its writer, a device need not end
+    }
+    return cache.open(QIODevice::ReadOnly) ? QString() : cache.errorString();
 }
 
 #ifdef Q_OS_WIN
@@ -118,14 +129,14 @@ QString SystemHelper::getIdentifier()
     QFile cache(configurationPath() + QStringLiteral("/sn_cache"));
     qCInfo(lcModbus) << "Accessing cache file:" << cache.fileName();
     if (!cache.exists()) {
-        writeNewIdentifier(cache);
+        writeNewIdentifier(cache.fileName());
     }
-    if (!cache.open(QIODevice::ReadOnly)) {
-        qCWarning(lcModbus) << "Could not read cache file:" << cache.errorString()
-                            << "create an uncached identifier.";
+    const QString failure = openToRead(cache);
+    if (!failure.isEmpty()) {
+        qCWarning(lcModbus) << "Could not read cache file:" << failure << "create an uncached identifier.";
         return newIdentifier();
     }
-    QString identifier = QString::fromUtf8(cache.readAll());
+    QString identifier = QString::fromUtf8(cache.read(maximumIdentifierSize));
     qCInfo(lcModbus) << "Cached ID:" << identifier;
     return identifier;
 }

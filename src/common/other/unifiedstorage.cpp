@@ -10,6 +10,7 @@
 #include <QAbstractSocket>
 #include <QDataStream>
 #include <QFile>
+#include <QFileInfo>
 #include <QHostAddress>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -33,6 +34,9 @@ const QLatin1String binaryScheme("binary://"); // as the Base64 text of its QDat
 
 // QMetaType normalises the names it is asked for, one level of recursion a template argument.
 constexpr int maxTypeNameLength = 100;
+
+// Far more than settings take. Parsed, a file needs ten times its size and more.
+constexpr qint64 maxSnapshotSize = qint64{64} * 1024 * 1024;
 
 UnifiedStorage *theInstance = nullptr;
 
@@ -304,8 +308,10 @@ void UnifiedStorage::saveSnapshot(const QString &path)
 
 void UnifiedStorage::loadSnapshot(const QString &path, bool keepCurrent)
 {
+    const QFileInfo info(path);
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    // A FIFO would wait for its writer, and a device need not end.
+    if (!info.isFile() || info.size() > maxSnapshotSize || !file.open(QIODevice::ReadOnly)) {
         qCCritical(lcCore) << "Failed reading bucket snapshot from" << path;
         return;
     }
