@@ -219,6 +219,8 @@ int main(int argc, char *argv[])
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     SystemHelper::initializeConfigurationPath();
 
+    QGuiApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
     q_check_ptr(new UrlListenerPeer(QCoreApplication::instance(), applicationKey()));
     if (isSecondInstance()) {
