@@ -66,6 +66,7 @@ void MainWindow::setAlarmSelectionEnabled(bool enabled)
         emit alarmImportanceChanged(defaultAlarmImportance);
         emit alarmActionChanged(defaultAlarmAction);
     }
+    d->fitWindow();
 }
 
 void MainWindow::setSerialNumber(const QString &serial)
@@ -99,6 +100,7 @@ void MainWindow::changeEvent(QEvent *event)
     d->setAlarmButtonTexts();
     d->loadAlarms();
     d->setTitle();
+    d->fitWindow();
 }
 
 MainWindowPrivate::MainWindowPrivate(MainWindow *window) : QObject(window), q(window)
@@ -134,6 +136,14 @@ void MainWindowPrivate::setTitle()
 {
     q->setWindowTitle(QCoreApplication::applicationName() + QStringLiteral(" - ")
                       + QCoreApplication::organizationName());
+}
+
+void MainWindowPrivate::fitWindow()
+{
+    ui->verticalLayout->activate(); // the least size that it set before would keep the window from shrinking
+    if (!q->isMaximized()) {
+        q->resize(q->sizeHint()); // adjustSize() stops at two thirds of the screen
+    }
 }
 
 void MainWindowPrivate::setAlarmButtonTexts()

@@ -29,6 +29,9 @@ public:
     void setTitle();
     void setAlarmButtonTexts();
 
+    // Makes the window as wide as its longest text and as high as what it shows.
+    void fitWindow();
+
     // Refills the three pickers from the alarm catalogue. A catalogue that cannot be read leaves them
     // untouched.
     void loadAlarms();

@@ -9,9 +9,23 @@
 #include "mainwindow.h"
 #include "testdata.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QPushButton>
 #include <QUrl>
+
+// Whether every entry fits into the list, closed and open.
+static bool isReadable(QComboBox *list)
+{
+    list->showPopup();
+    const int room = qMin(list->width(), list->view()->viewport()->width());
+    list->hidePopup();
+    int longest = 0;
+    for (int i = 0; i < list->count(); ++i) {
+        longest = qMax(longest, list->fontMetrics().horizontalAdvance(list->itemText(i)));
+    }
+    return longest < room;
+}
 
 class TestMainWindow : public QObject
 {
@@ -89,6 +103,29 @@ private slots:
             m_window->onUrlReceived(QUrl(row.at(0)));
             const QString pickers = m_window->findChild<QComboBox *>("alarmAction"_s)->isVisible() ? "shown"_s : "hidden"_s;
             QCOMPARE(QStringList({row.at(0), row.at(1), pickers, m_languages->currentLanguage()}), row);
+        }
+    }
+
+    void widths_data()
+    {
+        QTest::addColumn<QString>("style");
+        QTest::addColumn<bool>("running");
+        QTest::newRow("Windows, at the start") << "Windows"_s << false;
+        QTest::newRow("Windows, running") << "Windows"_s << true;
+        QTest::newRow("Fusion, running") << "Fusion"_s << true;
+    }
+    void widths()
+    {
+        // A list that came up before it was filled stayed too narrow to tell alarms apart.
+        QFETCH(QString, style);
+        QFETCH(bool, running);
+        QApplication::setStyle(style);
+        m_window->setVisible(running);
+        auto *alarms = m_window->findChild<QComboBox *>("alarmList"_s);
+        for (const QString &url : {"access_level/4"_s, "access_level/3"_s, "access_level/4"_s, "change_lang/fr_FR"_s}) {
+            m_window->onUrlReceived(QUrl(url));
+            m_window->show();
+            QTRY_VERIFY(alarms->isVisible() ? isReadable(alarms) : m_window->width() < 300);
         }
     }
 
