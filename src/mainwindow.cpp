@@ -14,6 +14,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTextDocument>
 
 namespace {
 
@@ -30,6 +31,12 @@ constexpr int maximumEntryWidth = 500;
 void addItem(QComboBox *picker, const QString &itemText, const QVariant &data)
 {
     picker->addItem(QIcon(), itemText, data);
+}
+
+// Qt takes a tool tip that looks like HTML for HTML.
+QString plainToolTip(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
 }
 
 // The text in the current language, else the catalogue's own.
@@ -113,6 +120,8 @@ MainWindowPrivate::MainWindowPrivate(MainWindow *window) : QObject(window), q(wi
     setAlarmButtonTexts();
     connect(ui->raiseAlarmButton, SIGNAL(clicked()), q, SIGNAL(injectAlarmRequested()));
     connect(ui->removeAlarmButton, SIGNAL(clicked()), q, SIGNAL(removeAlarmRequested()));
+    connect(ui->alarmList, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &MainWindowPrivate::showWholeAlarm);
     ui->alarmList->setVisible(false);
     ui->alarmImportance->setVisible(false);
     ui->alarmAction->setVisible(false);
@@ -206,7 +215,6 @@ std::optional<QMap<QString, QString>> MainWindowPrivate::pickerEntries(const QBy
         qCCritical(lcGui) << "Failed parsing event list from resources:" << static_cast<int>(error.error);
         return {};
     }
-    const QFontMetrics metrics((QFont()));
     QMap<QString, QString> entries;
     for (const QJsonValue &value : rows) {
         const QJsonObject row = value.toObject();
@@ -218,9 +226,7 @@ std::optional<QMap<QString, QString>> MainWindowPrivate::pickerEntries(const QBy
             continue;
         }
         const QString message = alarmText(signature, row.value(QLatin1String("message")).toString());
-        entries.insert(signature,
-                       metrics.elidedText(QStringLiteral("%1: %2").arg(signature, message), Qt::ElideRight,
-                                          maximumEntryWidth));
+        entries.insert(signature, QStringLiteral("%1: %2").arg(signature, message));
     }
     return entries;
 }
@@ -228,11 +234,22 @@ std::optional<QMap<QString, QString>> MainWindowPrivate::pickerEntries(const QBy
 // Signatures in plain string order: "0x0" comes first, upper-case digits before lower-case ones.
 void MainWindowPrivate::fillAlarmPicker(const QMap<QString, QString> &entries)
 {
+    const QFontMetrics metrics((QFont()));
     ui->alarmList->clear();
     for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry) {
-        addItem(ui->alarmList, entry.value(), entry.key());
+        const int row = ui->alarmList->count();
+        addItem(ui->alarmList, metrics.elidedText(entry.value(), Qt::ElideRight, maximumEntryWidth),
+                entry.key());
+        ui->alarmList->setItemData(row, plainToolTip(entry.value()), Qt::ToolTipRole);
+        ui->alarmList->setItemData(row, entry.value(), Qt::AccessibleDescriptionRole);
     }
     ui->alarmList->setAccessibleName(QCoreApplication::translate("GUI", "Alarm"));
+    showWholeAlarm(); // the first entry became the current one before it had its tool tip
+}
+
+void MainWindowPrivate::showWholeAlarm()
+{
+    ui->alarmList->setToolTip(ui->alarmList->currentData(Qt::ToolTipRole).toString());
 }
 
 void MainWindowPrivate::fillImportancePicker()

@@ -36,9 +36,9 @@ public:
     // untouched.
     void loadAlarms();
 
-    // Entry texts by signature, read from a catalogue's JSON text; of rows with the same signature the last
-    // one counts. Rows without a signature are left out, and what is not JSON gives no value, with a log line
-    // each.
+    // Entries, "<signature>: <message>", by signature, read from a catalogue's JSON text; of rows with the
+    // same signature the last one counts. Rows without a signature are left out, and what is not JSON gives
+    // no value, with a log line each.
     static std::optional<QMap<QString, QString>> pickerEntries(const QByteArray &catalogue);
 
     std::unique_ptr<Ui::MainWindow> ui;
@@ -53,6 +53,7 @@ private slots:
 
 private:
     void fillAlarmPicker(const QMap<QString, QString> &entries);
+    void showWholeAlarm(); // of a current entry that is cut, as tool tip
     void fillImportancePicker();
     void fillActionPicker();
 

@@ -12,7 +12,13 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QPushButton>
+#include <QTranslator>
 #include <QUrl>
+
+class MarkupTranslator : public QTranslator
+{
+    QString translate(const char *, const char *, const char *, int) const override { return "<b>Text"_s; }
+};
 
 // Whether every entry fits into the list, closed and open.
 static bool isReadable(QComboBox *list)
@@ -139,13 +145,20 @@ private slots:
         QStringList entries;
         for (int i = 0; i < alarms->count(); ++i) {
             entries += alarms->itemText(i);
-            QVERIFY(QFontMetrics(QFont()).horizontalAdvance(entries.last()) <= 500);
+            const QString full = alarms->itemData(i, Qt::ToolTipRole).toString();
+            QCOMPARE(entries.last(), QFontMetrics(QFont()).elidedText(full, Qt::ElideRight, 500));
+            QVERIFY(!full.endsWith(u'\u2026'));
+            QCOMPARE(alarms->itemData(i, Qt::AccessibleDescriptionRole).toString(), full);
         }
         QCOMPARE(entries.size(), 151);
         QVERIFY(entries.contains("0x44060012: Application time interrupted"_s));
         QVERIFY(entries.contains("0x95000005: Eingangssensor zu lange belegt?"_s));
         QVERIFY(!entries.filter(QRegularExpression("\u2026$"_s)).isEmpty());
         QCOMPARE(alarms->findData("0x3102000b"_s) - alarms->findData("0x3102000C"_s), 1);
+        MarkupTranslator markup;
+        QCoreApplication::installTranslator(&markup);
+        m_window->setAlarmSelectionEnabled(true);
+        QCOMPARE(alarms->toolTip(), "<p>0x0: &lt;b&gt;Text</p>"_s);
         m_languages = new LanguageManager(QStringLiteral(TRANSLATIONS_DIR), this);
     }
 
