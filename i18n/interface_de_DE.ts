@@ -43,5 +43,33 @@
         <source>Aktion</source>
         <translation>Aktion</translation>
     </message>
+    <message>
+        <source>Seriennummer des simulierten Geräts</source>
+        <translation>Seriennummer des simulierten Geräts</translation>
+    </message>
+    <message>
+        <source>Lässt den Druck steigen und fallen oder hält ihn an</source>
+        <translation>Lässt den Druck steigen und fallen oder hält ihn an</translation>
+    </message>
+    <message>
+        <source>Alarm, der ausgelöst werden soll</source>
+        <translation>Alarm, der ausgelöst werden soll</translation>
+    </message>
+    <message>
+        <source>Wichtigkeit des Alarms</source>
+        <translation>Wichtigkeit des Alarms</translation>
+    </message>
+    <message>
+        <source>Was der Master mit dem Alarm tun soll</source>
+        <translation>Was der Master mit dem Alarm tun soll</translation>
+    </message>
+    <message>
+        <source>Schreibt den Alarm in die Register</source>
+        <translation>Schreibt den Alarm in die Register</translation>
+    </message>
+    <message>
+        <source>Leert die Register des Alarms</source>
+        <translation>Leert die Register des Alarms</translation>
+    </message>
 </context>
 </TS>

@@ -43,5 +43,33 @@
         <source>Aktion</source>
         <translation>Action</translation>
     </message>
+    <message>
+        <source>Seriennummer des simulierten Geräts</source>
+        <translation>Serial number of the simulated device</translation>
+    </message>
+    <message>
+        <source>Lässt den Druck steigen und fallen oder hält ihn an</source>
+        <translation>Lets the pressure rise and fall, or holds it</translation>
+    </message>
+    <message>
+        <source>Alarm, der ausgelöst werden soll</source>
+        <translation>Alarm to raise</translation>
+    </message>
+    <message>
+        <source>Wichtigkeit des Alarms</source>
+        <translation>Importance of the alarm</translation>
+    </message>
+    <message>
+        <source>Was der Master mit dem Alarm tun soll</source>
+        <translation>What the master is to do with the alarm</translation>
+    </message>
+    <message>
+        <source>Schreibt den Alarm in die Register</source>
+        <translation>Writes the alarm to the registers</translation>
+    </message>
+    <message>
+        <source>Leert die Register des Alarms</source>
+        <translation>Empties the alarm’s registers</translation>
+    </message>
 </context>
 </TS>

@@ -43,5 +43,33 @@
         <source>Aktion</source>
         <translation>Acción</translation>
     </message>
+    <message>
+        <source>Seriennummer des simulierten Geräts</source>
+        <translation>Número de serie del equipo simulado</translation>
+    </message>
+    <message>
+        <source>Lässt den Druck steigen und fallen oder hält ihn an</source>
+        <translation>Hace subir y bajar la presión o la mantiene</translation>
+    </message>
+    <message>
+        <source>Alarm, der ausgelöst werden soll</source>
+        <translation>Alarma que se generará</translation>
+    </message>
+    <message>
+        <source>Wichtigkeit des Alarms</source>
+        <translation>Importancia de la alarma</translation>
+    </message>
+    <message>
+        <source>Was der Master mit dem Alarm tun soll</source>
+        <translation>Qué debe hacer el maestro con la alarma</translation>
+    </message>
+    <message>
+        <source>Schreibt den Alarm in die Register</source>
+        <translation>Escribe la alarma en los registros</translation>
+    </message>
+    <message>
+        <source>Leert die Register des Alarms</source>
+        <translation>Vacía los registros de la alarma</translation>
+    </message>
 </context>
 </TS>

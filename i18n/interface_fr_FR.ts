@@ -43,5 +43,33 @@
         <source>Aktion</source>
         <translation>Action</translation>
     </message>
+    <message>
+        <source>Seriennummer des simulierten Geräts</source>
+        <translation>Numéro de série de l’appareil simulé</translation>
+    </message>
+    <message>
+        <source>Lässt den Druck steigen und fallen oder hält ihn an</source>
+        <translation>Fait monter et descendre la pression, ou la maintient</translation>
+    </message>
+    <message>
+        <source>Alarm, der ausgelöst werden soll</source>
+        <translation>Alarme à déclencher</translation>
+    </message>
+    <message>
+        <source>Wichtigkeit des Alarms</source>
+        <translation>Importance de l’alarme</translation>
+    </message>
+    <message>
+        <source>Was der Master mit dem Alarm tun soll</source>
+        <translation>Ce que le maître doit faire de l’alarme</translation>
+    </message>
+    <message>
+        <source>Schreibt den Alarm in die Register</source>
+        <translation>Écrit l’alarme dans les registres</translation>
+    </message>
+    <message>
+        <source>Leert die Register des Alarms</source>
+        <translation>Vide les registres de l’alarme</translation>
+    </message>
 </context>
 </TS>

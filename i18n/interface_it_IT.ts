@@ -43,5 +43,33 @@
         <source>Aktion</source>
         <translation>Azione</translation>
     </message>
+    <message>
+        <source>Seriennummer des simulierten Geräts</source>
+        <translation>Numero di serie dell’apparecchio simulato</translation>
+    </message>
+    <message>
+        <source>Lässt den Druck steigen und fallen oder hält ihn an</source>
+        <translation>Fa salire e scendere la pressione oppure la mantiene</translation>
+    </message>
+    <message>
+        <source>Alarm, der ausgelöst werden soll</source>
+        <translation>Allarme da generare</translation>
+    </message>
+    <message>
+        <source>Wichtigkeit des Alarms</source>
+        <translation>Importanza dell’allarme</translation>
+    </message>
+    <message>
+        <source>Was der Master mit dem Alarm tun soll</source>
+        <translation>Che cosa deve fare il master con l’allarme</translation>
+    </message>
+    <message>
+        <source>Schreibt den Alarm in die Register</source>
+        <translation>Scrive l’allarme nei registri</translation>
+    </message>
+    <message>
+        <source>Leert die Register des Alarms</source>
+        <translation>Svuota i registri dell’allarme</translation>
+    </message>
 </context>
 </TS>

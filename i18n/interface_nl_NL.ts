@@ -43,5 +43,33 @@
         <source>Aktion</source>
         <translation>Actie</translation>
     </message>
+    <message>
+        <source>Seriennummer des simulierten Geräts</source>
+        <translation>Serienummer van het gesimuleerde apparaat</translation>
+    </message>
+    <message>
+        <source>Lässt den Druck steigen und fallen oder hält ihn an</source>
+        <translation>Laat de druk stijgen en dalen of houdt de druk vast</translation>
+    </message>
+    <message>
+        <source>Alarm, der ausgelöst werden soll</source>
+        <translation>Te genereren alarm</translation>
+    </message>
+    <message>
+        <source>Wichtigkeit des Alarms</source>
+        <translation>Prioriteit van het alarm</translation>
+    </message>
+    <message>
+        <source>Was der Master mit dem Alarm tun soll</source>
+        <translation>Wat de master met het alarm moet doen</translation>
+    </message>
+    <message>
+        <source>Schreibt den Alarm in die Register</source>
+        <translation>Schrijft het alarm naar de registers</translation>
+    </message>
+    <message>
+        <source>Leert die Register des Alarms</source>
+        <translation>Maakt de registers van het alarm leeg</translation>
+    </message>
 </context>
 </TS>

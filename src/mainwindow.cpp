@@ -104,7 +104,7 @@ void MainWindow::changeEvent(QEvent *event)
     // their scripts know it so; the next click still does what the state calls for.
     d->ui->startStopSimulationButton->setText(QCoreApplication::translate("GUI", "Simulation starten"));
     d->ui->startStopSimulationButton->setText(QCoreApplication::translate("GUI", "Simulation beenden"));
-    d->setAlarmButtonTexts();
+    d->setTexts();
     d->loadAlarms();
     d->setTitle();
     d->fitWindow();
@@ -117,7 +117,7 @@ MainWindowPrivate::MainWindowPrivate(MainWindow *window) : QObject(window), q(wi
     ui->setupUi(q);
     connect(ui->startStopSimulationButton, &QPushButton::clicked, this, &MainWindowPrivate::toggleSimulation);
     ui->startStopSimulationButton->setText(QCoreApplication::translate("GUI", "Simulation starten"));
-    setAlarmButtonTexts();
+    setTexts();
     connect(ui->raiseAlarmButton, SIGNAL(clicked()), q, SIGNAL(injectAlarmRequested()));
     connect(ui->removeAlarmButton, SIGNAL(clicked()), q, SIGNAL(removeAlarmRequested()));
     connect(ui->alarmList, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
@@ -155,10 +155,29 @@ void MainWindowPrivate::fitWindow()
     }
 }
 
-void MainWindowPrivate::setAlarmButtonTexts()
+void MainWindowPrivate::setTexts()
 {
     ui->raiseAlarmButton->setText(QCoreApplication::translate("GUI", "Alarm auslösen"));
     ui->removeAlarmButton->setText(QCoreApplication::translate("GUI", "Alarm beenden"));
+
+    // On Linux the current entry takes the place of a picker's name, so the descriptions tell what it is for.
+    ui->alarmList->setAccessibleName(QCoreApplication::translate("GUI", "Alarm"));
+    ui->alarmImportance->setAccessibleName(QCoreApplication::translate("GUI", "Wichtigkeit"));
+    ui->alarmAction->setAccessibleName(QCoreApplication::translate("GUI", "Aktion"));
+    ui->snLabel->setAccessibleDescription(
+        QCoreApplication::translate("GUI", "Seriennummer des simulierten Geräts"));
+    ui->startStopSimulationButton->setAccessibleDescription(
+        QCoreApplication::translate("GUI", "Lässt den Druck steigen und fallen oder hält ihn an"));
+    ui->alarmList->setAccessibleDescription(
+        QCoreApplication::translate("GUI", "Alarm, der ausgelöst werden soll"));
+    ui->alarmImportance->setAccessibleDescription(
+        QCoreApplication::translate("GUI", "Wichtigkeit des Alarms"));
+    ui->alarmAction->setAccessibleDescription(
+        QCoreApplication::translate("GUI", "Was der Master mit dem Alarm tun soll"));
+    ui->raiseAlarmButton->setAccessibleDescription(
+        QCoreApplication::translate("GUI", "Schreibt den Alarm in die Register"));
+    ui->removeAlarmButton->setAccessibleDescription(
+        QCoreApplication::translate("GUI", "Leert die Register des Alarms"));
 }
 
 void MainWindowPrivate::changeAlarmId()
@@ -243,7 +262,6 @@ void MainWindowPrivate::fillAlarmPicker(const QMap<QString, QString> &entries)
         ui->alarmList->setItemData(row, plainToolTip(entry.value()), Qt::ToolTipRole);
         ui->alarmList->setItemData(row, entry.value(), Qt::AccessibleDescriptionRole);
     }
-    ui->alarmList->setAccessibleName(QCoreApplication::translate("GUI", "Alarm"));
     showWholeAlarm(); // the first entry became the current one before it had its tool tip
 }
 
@@ -261,7 +279,6 @@ void MainWindowPrivate::fillImportancePicker()
     addItem(ui->alarmImportance, QStringLiteral("WARN"), 4);
     addItem(ui->alarmImportance, QStringLiteral("NOTICE"), 5);
     addItem(ui->alarmImportance, QStringLiteral("INFO"), 6);
-    ui->alarmImportance->setAccessibleName(QCoreApplication::translate("GUI", "Wichtigkeit"));
 }
 
 void MainWindowPrivate::fillActionPicker()
@@ -270,5 +287,4 @@ void MainWindowPrivate::fillActionPicker()
     addItem(ui->alarmAction, QCoreApplication::translate("GUI", "Bestätigung"), 1);
     addItem(ui->alarmAction, QCoreApplication::translate("GUI", "Keine Bestätigung"), 0);
     addItem(ui->alarmAction, QCoreApplication::translate("GUI", "In Liste anzeigen"), 16);
-    ui->alarmAction->setAccessibleName(QCoreApplication::translate("GUI", "Aktion"));
 }

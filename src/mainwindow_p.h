@@ -27,7 +27,7 @@ public:
 
     void toggleSimulation();
     void setTitle();
-    void setAlarmButtonTexts();
+    void setTexts(); // but the toggle's
 
     // Makes the window as wide as its longest text and as high as what it shows.
     void fitWindow();
