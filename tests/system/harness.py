@@ -93,7 +93,6 @@ def write_to_channel(message, directory=None):
     with socket.socket(socket.AF_UNIX) as channel:
         path = os.path.join(directory or os.environ["TMPDIR"], "RavelMonitorOrbisSimulator")
         wait_until(lambda: channel.connect_ex(path) == 0, "the channel")
-        channel.settimeout(DEADLINE)
         channel.sendall(message)
         channel.shutdown(socket.SHUT_WR)
         channel.recv(1)

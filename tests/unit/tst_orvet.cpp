@@ -131,10 +131,10 @@ private slots:
         peer.start(requestPort, responsePort);
         QTest::ignoreMessage(QtWarningMsg, "Dropping responses until those received are dealt with: 1000");
         for (int i = 0; i < 1500; ++i) {
-            broadcast(m_sender, "g 02:00:00:00:00:01\tkey=value", responsePort);
+            broadcast(m_sender, "g", responsePort);
             peer.value("key"_s); // the other thread has a turn
-            peer.value("key"_s);
         }
+        peer.value("key"_s);
         QCoreApplication::processEvents();
         QCOMPARE(reports.count(), 1000);
     }
