@@ -187,10 +187,9 @@ private:
     // Answers to the master that got most, divided by those to the one that got fewest.
     double bestToWorst() const
     {
-        const auto [worst, best] =
-            std::minmax_element(m_masters.begin(), m_masters.end(), [](const Master &one, const Master &other) {
-                return one.answered < other.answered;
-            });
+        const auto [worst, best] = std::minmax_element(
+            m_masters.begin(), m_masters.end(),
+            [](const Master &one, const Master &other) { return one.answered < other.answered; });
         return static_cast<double>(best->answered) / static_cast<double>(worst->answered);
     }
 

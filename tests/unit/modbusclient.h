@@ -33,8 +33,7 @@ public:
     QByteArray exchange(const QByteArray &request, int answerSize)
     {
         write(QByteArray::fromHex(request));
-        while (bytesAvailable() < answerSize && QSignalSpy(this, &QTcpSocket::readyRead).wait()) {
-        }
+        while (bytesAvailable() < answerSize && QSignalSpy(this, &QTcpSocket::readyRead).wait()) { }
         return readAll();
     }
 

@@ -40,19 +40,24 @@ private slots:
 
     void cleanup() { delete m_connections; }
 
-    // Each sends before its connection is accepted. They are more than a turn of the event loop serves.
+    // More than a turn of the event loop serves. Each has sent its request, and every other has left, before its
+    // connection is accepted. Without an answer the system does not tell of those once more.
     void crowd()
     {
+        m_answer.clear();
         std::vector<std::unique_ptr<QTcpSocket>> masters(200);
-        for (auto &master : masters) {
-            master = std::make_unique<QTcpSocket>();
-            master->connectToHost("127.0.0.1"_s, port());
-            QVERIFY(master->waitForConnected());
-            master->write("x");
-            QVERIFY(master->waitForBytesWritten());
+        for (std::size_t i = 0; i < masters.size(); ++i) {
+            masters.at(i) = std::make_unique<QTcpSocket>();
+            masters.at(i)->connectToHost("127.0.0.1"_s, port());
+            QVERIFY(masters.at(i)->waitForConnected());
+            masters.at(i)->write("x");
+            QVERIFY(masters.at(i)->waitForBytesWritten());
+            if (i % 2 == 0) {
+                masters.at(i)->close();
+            }
         }
         QTRY_COMPARE(m_received.size(), 200);
-        QTRY_COMPARE(masters.back()->bytesAvailable(), m_answer.size());
+        QTRY_COMPARE(sockets().size(), 100);
         masters.clear();
         QTRY_VERIFY(sockets().isEmpty());
     }

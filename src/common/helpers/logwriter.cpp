@@ -13,8 +13,8 @@
 
 namespace {
 
-// What is logged in one turn of the event loop up to this number is written at once: should the program crash, its
-// last lines are there.
+// What is logged in one turn of the event loop up to this number is written at once: should the program
+// crash, its last lines are there.
 constexpr int linesWrittenAtOnce = 16;
 
 constexpr int maximumPending = 65536;
@@ -29,8 +29,8 @@ Q_GLOBAL_STATIC(Turn, turn)
 
 void writeToStandardError(const QByteArray &bytes)
 {
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
-    std::fflush(stderr);
+    (void)std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
+    (void)std::fflush(stderr);
 }
 
 void writePending()

@@ -29,8 +29,8 @@ constexpr int reservedDescriptors = 32;
 
 ModbusConnections::ModbusConnections(const Predicate &takesLong, QObject *parent)
     : QTcpServer(parent), m_takesLong(takesLong), m_watch(new SocketWatch(this)),
-      m_maximumMasters(std::max(1, SystemHelper::maximumDescriptors() - SystemHelper::channelDescriptors()
-                                       - reservedDescriptors))
+      m_maximumMasters(std::max(
+          1, SystemHelper::maximumDescriptors() - SystemHelper::channelDescriptors() - reservedDescriptors))
 {
     m_buffer.reserve(readSize);
     m_restartTimer.setSingleShot(true);
@@ -104,8 +104,8 @@ void ModbusConnections::acceptFurther()
     }
 }
 
-// A server that the system refuses its first connection, for want of descriptors perhaps, accepts no other, and
-// resuming does not help: it keeps the error until it listens anew.
+// A server that the system refuses its first connection, for want of descriptors perhaps, accepts no other,
+// and resuming does not help: it keeps the error until it listens anew.
 void ModbusConnections::scheduleRestart()
 {
     qCWarning(lcModbus) << "Could not accept a Modbus master:" << errorString();

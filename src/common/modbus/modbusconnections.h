@@ -16,12 +16,13 @@ class SocketWatch;
 
 // The connections of a Modbus server: lets masters in, reads what they send and drops those that are gone.
 //
-// Whatever one master does, the others get their turn: connections are accepted a few at a time, requests that take
-// long are answered one at a time, a master that does not fetch its answers is not read from until it does, and as
-// many descriptors as the rest of the program needs stay free. Masters beyond that wait with the system.
+// Whatever one master does, the others get their turn: connections are accepted a few at a time, requests
+// that take long are answered one at a time, a master that does not fetch its answers is not read from until
+// it does, and as many descriptors as the rest of the program needs stay free. Masters beyond that wait with
+// the system.
 //
-// Sockets are this object's children and are deleted once their connection has ended. Everything happens on the
-// thread that owns the object.
+// Sockets are this object's children and are deleted once their connection has ended. Everything happens on
+// the thread that owns the object.
 class ModbusConnections : public QTcpServer
 {
     Q_OBJECT

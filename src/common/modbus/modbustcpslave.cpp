@@ -36,7 +36,8 @@ RegisterRange registerRange(const TcpApplicationDataUnit &request)
     return {qFromBigEndian<quint16>(fields.constData()), qFromBigEndian<quint16>(fields.constData() + 2)};
 }
 
-// More registers than the 125 that the Modbus standard allows: up to 65,535, each with a warning if it was never set.
+// More registers than the 125 that the Modbus standard allows: up to 65,535, each with a warning if it was
+// never set.
 bool isLongRead(const QByteArray &bytes)
 {
     constexpr int standardLimit = 125;

@@ -59,7 +59,7 @@ SocketWatch::SocketWatch(QObject *parent) : QObject(parent), m_epoll(epoll_creat
 {
     if (m_epoll >= 0) {
         auto *notifier = new QSocketNotifier(m_epoll, QSocketNotifier::Read, this);
-        connect(notifier, &QSocketNotifier::activated, this, &SocketWatch::deliver);
+        connect(notifier, &QSocketNotifier::activated, this, [this] { deliver(); });
     }
 }
 
@@ -99,7 +99,7 @@ void SocketWatch::lookAgain(QAbstractSocket *socket)
 bool SocketWatch::control(int operation, int descriptor) const
 {
     epoll_event event = {};
-    event.events = EPOLLIN | EPOLLOUT | EPOLLET;
+    event.events = EPOLLIN | EPOLLOUT | EPOLLRDHUP | EPOLLET;
     event.data.fd = descriptor;
     return epoll_ctl(m_epoll, operation, descriptor, &event) == 0;
 }
@@ -113,11 +113,21 @@ void SocketWatch::deliver()
     for (int i = 0; i < count; ++i) {
         const epoll_event &event = events.at(static_cast<std::size_t>(i));
         const bool isReady = (event.events & request) == request || (event.events & failure) != 0;
-        // By descriptor, as a socket may go while others of its turn are served.
-        QAbstractSocket *socket = isReady ? m_sockets.value(event.data.fd) : nullptr;
-        if (socket) {
-            emit ready(socket);
+        if (isReady) {
+            deliver(event.data.fd);
         }
+        // One read may have taken the last request, another takes the end of the connection.
+        if (isReady && (event.events & EPOLLRDHUP) != 0) {
+            deliver(event.data.fd);
+        }
+    }
+}
+
+// By descriptor, as a socket may go while others of its turn are served.
+void SocketWatch::deliver(int descriptor)
+{
+    if (QAbstractSocket *socket = m_sockets.value(descriptor)) {
+        emit ready(socket);
     }
 }
 

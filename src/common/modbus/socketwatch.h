@@ -31,8 +31,8 @@ public:
     void lookAgain(QAbstractSocket *socket);
 
 signals:
-    // Something has arrived, be it the end of the connection, and an answer would be taken at once. Emitted once
-    // for what has arrived, whether the receiver reads it or not.
+    // Something has arrived, be it the end of the connection, and an answer would be taken at once. Emitted
+    // once for what has arrived, whether the receiver reads it or not.
     void ready(QAbstractSocket *socket);
 
 private:
@@ -40,6 +40,7 @@ private:
 #ifdef Q_OS_LINUX
     bool control(int operation, int descriptor) const;
     void deliver();
+    void deliver(int descriptor);
 
     const int m_epoll;
     QHash<int, QPointer<QAbstractSocket>> m_sockets; // by descriptor
