@@ -9,11 +9,13 @@ Needs pymodbus 3. A scenario names the registers that it uses and lists its step
   write {NAME: VALUE, ...}         writes the values in this order
   ramp NAME, from, to, seconds     moves a value evenly, ten steps a second
   wait for {NAME: VALUE}, seconds  until the registers hold all these values; ends the scenario if they never do
+  faults {NAME: VALUE, ...}        sets the faults of orbis-fault-proxy, whose control port the scenario names
   pause SECONDS
 """
 
 import argparse
 import json
+import socket
 import struct
 import sys
 import time
@@ -24,9 +26,10 @@ FORMATS = {"float": "<f", "int": "<i"}
 
 
 class Player:
-    def __init__(self, client, registers, confirms):
+    def __init__(self, client, scenario, confirms):
         self.client = client
-        self.registers = registers
+        self.registers = scenario["registers"]
+        self.control = scenario.get("control")
         self.confirms = confirms
 
     def write(self, name, value):
@@ -50,6 +53,8 @@ class Player:
             self.ramp(step["ramp"], step["from"], step["to"], step["seconds"])
         elif "wait for" in step:
             self.wait(step["wait for"], step["seconds"])
+        elif "faults" in step:
+            self.set_faults(step["faults"])
         else:
             time.sleep(step["pause"])
 
@@ -71,6 +76,12 @@ class Player:
             time.sleep(0.1)
         print(f"  seen: {text}", flush=True)
 
+    def set_faults(self, faults):
+        with socket.create_connection(("127.0.0.1", self.control)) as proxy, proxy.makefile() as answers:
+            proxy.sendall(json.dumps(faults).encode() + b"\n")
+            if (answer := answers.readline()) != "ok\n":
+                sys.exit(f"  {faults}: {answer}")
+
 
 def number(value):
     return int(value, 0) if isinstance(value, str) else value
@@ -88,7 +99,7 @@ def main():
     client = ModbusTcpClient(arguments.host)
     if not client.connect():
         sys.exit(f"{arguments.host} does not answer on port 502")
-    player = Player(client, scenario["registers"], arguments.confirm)
+    player = Player(client, scenario, arguments.confirm)
     for step in scenario["steps"]:
         player.play(step)
 
