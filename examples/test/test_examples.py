@@ -6,6 +6,7 @@ import doctest
 import os
 import pathlib
 import re
+import shlex
 import subprocess
 import tempfile
 import unittest
@@ -24,12 +25,16 @@ class Documentation(unittest.TestCase):
         server = harness.open_display()
         self.addCleanup(server.communicate)
         self.addCleanup(server.terminate)
-        os.environ["PATH"] = "/usr/bin:/bin"
+        os.environ.update(ORBIS_PROGRAM=shlex.join(harness.command()), PYTHONDONTWRITEBYTECODE="1",
+                          PYTEST_ADDOPTS="-p no:cacheprovider")
 
     def test_commands_on_each_page(self):
         for page in [ROOT / "README.md", ROOT / "examples/README.md", *ROOT.glob("docs/*.md")]:
             with self.subTest(page.name), tempfile.TemporaryDirectory() as directory:
                 os.symlink(ROOT / "examples", f"{directory}/examples")
+                for tool in ("orbis-with-simulator", "orbis-fault-proxy"):
+                    os.symlink(ROOT / f"tools/{tool}.py", f"{directory}/{tool}")
+                os.environ["PATH"] = f"{directory}:/usr/bin:/bin"
                 blocks = BLOCK.findall(page.read_text(encoding="utf-8"))
                 self.run_beside_simulator(COMMAND.findall("".join(blocks)), directory)
 
