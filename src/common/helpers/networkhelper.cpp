@@ -6,17 +6,11 @@
 #include "common/helpers/loggingcategories.h"
 #include "common/other/unifiedstorage.h"
 
-#include <QFile>
 #include <QNetworkInterface>
 #include <QTextStream>
-#include <QUdpSocket>
 
 #ifdef Q_OS_LINUX
-#include <array>
-#include <cerrno>
-#include <net/if.h>
 #include <sys/socket.h>
-#include <unistd.h>
 #endif
 
 namespace {
@@ -52,28 +46,6 @@ QString proxySetting(const char *name)
     const QString key = QLatin1String("/settings/server/proxy-") + QLatin1String(name);
     return UnifiedStorage::instance()->restore(key).toString();
 }
-
-#ifdef Q_OS_LINUX
-// Gives the unbound socket a descriptor that sends and receives on the interface with this name only. Returns
-// false, with the socket untouched, where there is no such interface or the system refuses.
-bool tieToInterface(QUdpSocket *socket, const QString &interfaceName)
-{
-    const QByteArray name = QFile::encodeName(interfaceName);
-    if (name.isEmpty()) {
-        return false;
-    }
-    const int descriptor = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-    if (::setsockopt(descriptor, SOL_SOCKET, SO_BINDTODEVICE, name.constData(),
-                     static_cast<socklen_t>(name.size()))
-        != 0) {
-        const QString reason = qt_error_string(errno); // now, since logging may overwrite errno
-        qCWarning(lcNetworkHelper) << "Could not tie socket to interface" << name << reason;
-        ::close(descriptor);
-        return false;
-    }
-    return socket->setSocketDescriptor(descriptor, QAbstractSocket::UnconnectedState);
-}
-#endif
 
 } // namespace
 
@@ -177,33 +149,6 @@ QVector<NetworkHelper::InterfaceAddress> NetworkHelper::interfaceAddresses()
         }
     }
     return loopbacks + cards;
-}
-
-bool NetworkHelper::bindToInterface(QUdpSocket *socket, const InterfaceAddress &address, quint16 port)
-{
-    QHostAddress local = address.entry.ip();
-#ifdef Q_OS_LINUX
-    // A socket bound to the address itself would hear no limited broadcast here. Windows delivers them.
-    if (tieToInterface(socket, address.interfaceName)) {
-        local = QHostAddress(QHostAddress::AnyIPv4);
-    }
-#endif
-    return socket->bind(local, port, QUdpSocket::ShareAddress | QUdpSocket::ReuseAddressHint);
-}
-
-bool NetworkHelper::hasLostInterface(const QUdpSocket &socket)
-{
-#ifdef Q_OS_LINUX
-    std::array<char, IFNAMSIZ> name{};
-    socklen_t size = name.size();
-    return ::getsockopt(static_cast<int>(socket.socketDescriptor()), SOL_SOCKET, SO_BINDTODEVICE, name.data(),
-                        &size)
-        != 0
-        && errno == ENODEV;
-#else
-    Q_UNUSED(socket)
-    return false;
-#endif
 }
 
 QString NetworkHelper::toHexString(const QByteArray &data)

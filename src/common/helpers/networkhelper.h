@@ -44,6 +44,14 @@ public:
     // or more, on a local socket they try again without a pause.
     static void widenBacklog(qintptr listeningSocket);
 
+    // Makes the server listen on all addresses of this machine, IPv4 and IPv6, with a wide backlog. The port
+    // is then this program's alone: false when another one listens there, be it on one address only.
+    static bool listen(QTcpServer *server, quint16 port);
+
+    // Rids a listening server of an error. It keeps its port, which the system might not give back while
+    // peers are connected.
+    static bool listenAgain(QTcpServer *server);
+
     // Six groups of hexadecimal digits, loosely: groups of up to four characters and runs of "-" as
     // separators pass, as some drivers report them.
     static bool isValidMacAddress(const QString &address);

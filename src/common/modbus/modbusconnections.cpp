@@ -8,8 +8,6 @@
 #include "common/helpers/systemhelper.h"
 #include "common/modbus/socketwatch.h"
 
-#include <QHostAddress>
-
 #include <algorithm>
 
 namespace {
@@ -43,11 +41,7 @@ ModbusConnections::ModbusConnections(const Predicate &takesLong, QObject *parent
 
 bool ModbusConnections::start(quint16 port)
 {
-    if (!listen(QHostAddress::Any, port)) {
-        return false;
-    }
-    NetworkHelper::widenBacklog(socketDescriptor());
-    return true;
+    return NetworkHelper::listen(this, port);
 }
 
 void ModbusConnections::stop()
@@ -115,8 +109,8 @@ void ModbusConnections::scheduleRestart()
 
 void ModbusConnections::restart()
 {
-    close();
-    if (!start(m_port)) {
+    const bool listens = isListening() ? NetworkHelper::listenAgain(this) : start(m_port);
+    if (!listens) {
         qCWarning(lcModbus) << "Could not listen again on port" << m_port;
         m_restartTimer.start(restartDelayMs);
     }

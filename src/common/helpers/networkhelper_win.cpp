@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+// SPDX-License-Identifier: MIT
+
+#include "common/helpers/networkhelper.h"
+
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QUdpSocket>
+
+#include <winsock2.h>
+
+namespace {
+
+// Another descriptor for the same socket, which stays open when Qt closes the first one. Child processes do
+// not inherit it.
+SOCKET duplicate(qintptr descriptor)
+{
+    WSADATA unused;
+    static const int started = WSAStartup(MAKEWORD(2, 2), &unused); // Qt's own ends with Qt's last socket
+    WSAPROTOCOL_INFOW socket;
+    if (started != 0
+        || WSADuplicateSocketW(static_cast<SOCKET>(descriptor), GetCurrentProcessId(), &socket) != 0) {
+        return INVALID_SOCKET;
+    }
+    return WSASocketW(FROM_PROTOCOL_INFO, FROM_PROTOCOL_INFO, FROM_PROTOCOL_INFO, &socket, 0,
+                      WSA_FLAG_OVERLAPPED | WSA_FLAG_NO_HANDLE_INHERIT);
+}
+
+// A server of Qt shares its port: it listens although another program has the port on IPv4 or on one address,
+// and peers reach that program. Other sockets of Qt can be bound to a port that they have to themselves.
+SOCKET exclusiveListener(quint16 port)
+{
+    constexpr auto exclusively = QAbstractSocket::DontShareAddress;
+    // Nobody promises that binding IPv6 and IPv4 at once finds those who have the port on IPv4 only.
+    const bool isFree = QTcpSocket().bind(QHostAddress::AnyIPv4, port, exclusively);
+    QTcpSocket socket;
+    if (!isFree || !socket.bind(QHostAddress::Any, port, exclusively)
+        || ::listen(static_cast<SOCKET>(socket.socketDescriptor()), SOMAXCONN) != 0) {
+        return INVALID_SOCKET;
+    }
+    return duplicate(socket.socketDescriptor());
+}
+
+bool handOver(SOCKET listener, QTcpServer *server)
+{
+    const bool taken =
+        listener != INVALID_SOCKET && server->setSocketDescriptor(static_cast<qintptr>(listener));
+    if (!taken) {
+        ::closesocket(listener);
+    }
+    return taken;
+}
+
+} // namespace
+
+bool NetworkHelper::listen(QTcpServer *server, quint16 port)
+{
+    return handOver(exclusiveListener(port), server);
+}
+
+bool NetworkHelper::listenAgain(QTcpServer *server)
+{
+    // Not bound anew: the system grants no port exclusively on which connections are still open.
+    const SOCKET listener = duplicate(server->socketDescriptor());
+    server->close();
+    return handOver(listener, server);
+}
+
+bool NetworkHelper::bindToInterface(QUdpSocket *socket, const InterfaceAddress &address, quint16 port)
+{
+    return socket->bind(address.entry.ip(), port, QUdpSocket::ShareAddress | QUdpSocket::ReuseAddressHint);
+}
+
+bool NetworkHelper::hasLostInterface(const QUdpSocket &socket)
+{
+    Q_UNUSED(socket)
+    return false;
+}
