@@ -144,11 +144,18 @@ QVector<NetworkHelper::InterfaceAddress> NetworkHelper::interfaceAddresses()
         const QList<QNetworkAddressEntry> entries = candidate.addressEntries();
         for (const QNetworkAddressEntry &entry : entries) {
             if (entry.ip().protocol() == QAbstractSocket::IPv4Protocol) {
-                (isLoopback ? loopbacks : cards).append({entry, hardwareAddress, candidate.name()});
+                (isLoopback ? loopbacks : cards)
+                    .append({entry, hardwareAddress, candidate.name(), generation(candidate, entry.ip())});
             }
         }
     }
     return loopbacks + cards;
+}
+
+bool NetworkHelper::InterfaceAddress::isContinuedBy(const InterfaceAddress &later) const
+{
+    return later.entry.ip() == entry.ip() && later.interfaceName == interfaceName
+        && later.generation == generation;
 }
 
 QString NetworkHelper::toHexString(const QByteArray &data)

@@ -12,6 +12,8 @@
 #include <QVector>
 
 class QAbstractSocket;
+class QNetworkInterface;
+class QTcpServer;
 class QUdpSocket;
 
 // Stateless network operations: blocking transfer of one packet, validation of address texts.
@@ -28,6 +30,10 @@ public:
         QNetworkAddressEntry entry;
         QString hardwareAddress;
         QString interfaceName; // the system's own
+        qint64 generation = 0; // another one once the interface or, on Windows, its address has been away
+
+        // The same address on the same interface, which never lost it. Sockets bound to it then still work.
+        bool isContinuedBy(const InterfaceAddress &later) const;
     };
 
     NetworkHelper() = delete;
@@ -76,11 +82,6 @@ public:
     // name that is every interface, and the default route for sending.
     static bool bindToInterface(QUdpSocket *socket, const InterfaceAddress &address, quint16 port);
 
-    // Whether the interface that such a socket belongs to was taken out of the machine. The socket stays deaf
-    // then, even when the interface comes back with the same address. Always false on Windows, where a socket
-    // belongs to an address.
-    static bool hasLostInterface(const QUdpSocket &socket);
-
     // "0x0 0x1A 0xFF": upper-case digits, unpadded, separated by blanks.
     static QString toHexString(const QByteArray &data);
 
@@ -88,4 +89,7 @@ public:
     // "-password"; its type stays the default one. Without a host name nothing is set. A bad port gives port
     // 0.
     static QNetworkProxy proxyFromSettings();
+
+private:
+    static qint64 generation(const QNetworkInterface &candidate, const QHostAddress &address);
 };

@@ -6,12 +6,11 @@
 #include "common/helpers/loggingcategories.h"
 
 #include <QFile>
+#include <QNetworkInterface>
 #include <QTcpServer>
 #include <QUdpSocket>
 
-#include <array>
 #include <cerrno>
-#include <net/if.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -63,12 +62,9 @@ bool NetworkHelper::bindToInterface(QUdpSocket *socket, const InterfaceAddress &
                         QUdpSocket::ShareAddress | QUdpSocket::ReuseAddressHint);
 }
 
-bool NetworkHelper::hasLostInterface(const QUdpSocket &socket)
+// Sockets are tied to the interface and not to its address. They stay deaf after it was taken out of the
+// machine, even when it comes back by the same name; it then has another index.
+qint64 NetworkHelper::generation(const QNetworkInterface &candidate, const QHostAddress & /*address*/)
 {
-    std::array<char, IFNAMSIZ> name{};
-    socklen_t size = name.size();
-    return ::getsockopt(static_cast<int>(socket.socketDescriptor()), SOL_SOCKET, SO_BINDTODEVICE, name.data(),
-                        &size)
-        != 0
-        && errno == ENODEV;
+    return candidate.index();
 }

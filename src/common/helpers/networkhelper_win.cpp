@@ -3,11 +3,18 @@
 
 #include "common/helpers/networkhelper.h"
 
+#include <QNetworkInterface>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QUdpSocket>
+#include <QtEndian>
 
+// Blank lines keep these in the order that they ask for.
 #include <winsock2.h>
+
+#include <ws2tcpip.h>
+
+#include <iphlpapi.h>
 
 namespace {
 
@@ -71,8 +78,13 @@ bool NetworkHelper::bindToInterface(QUdpSocket *socket, const InterfaceAddress &
     return socket->bind(address.entry.ip(), port, QUdpSocket::ShareAddress | QUdpSocket::ReuseAddressHint);
 }
 
-bool NetworkHelper::hasLostInterface(const QUdpSocket &socket)
+// Sockets are bound to the address. The time since when the interface has it tells an interface that was
+// unplugged, and an address that was lost and given again.
+qint64 NetworkHelper::generation(const QNetworkInterface &candidate, const QHostAddress &address)
 {
-    Q_UNUSED(socket)
-    return false;
+    MIB_UNICASTIPADDRESS_ROW row = {};
+    ConvertInterfaceNameToLuidW(qUtf16Printable(candidate.name()), &row.InterfaceLuid);
+    row.Address.Ipv4.sin_family = AF_INET;
+    row.Address.Ipv4.sin_addr.s_addr = qToBigEndian(address.toIPv4Address());
+    return GetUnicastIpAddressEntry(&row) == NO_ERROR ? row.CreationTimeStamp.QuadPart : 0;
 }

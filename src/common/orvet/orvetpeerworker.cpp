@@ -99,7 +99,7 @@ void OrvetPeerWorker::start(quint16 requestPort, quint16 responsePort)
     }
     // The first interface, which is the loopback, stays on the any address for good: the check finds its
     // hardware address taken. Its answers carry the IP address 0.0.0.0, which requesters ignore.
-    startOnHostAddress({anyAddress, interfaces.first().hardwareAddress, {}}, requestPort, responsePort);
+    startOnHostAddress({anyAddress, interfaces.first().hardwareAddress, {}, {}}, requestPort, responsePort);
     if (m_hostEnabled) {
         setValue(QStringLiteral("addr1"), QStringLiteral("127.0.0.1"));
         setValue(QStringLiteral("mask1"), QStringLiteral("255.0.0.0"));
@@ -251,11 +251,9 @@ void OrvetPeerWorker::processRequest()
 
 void OrvetPeerWorker::checkForInterfaces()
 {
-    // A card that was away for a moment since the last check is opened anew.
-    removeAdapters([](const Adapter &adapter) {
-        return !adapter.requestSocket.isNull() && NetworkHelper::hasLostInterface(*adapter.requestSocket);
-    });
     const InterfaceAddresses interfaces = usableInterfaces();
+    // Only these go before anything is opened: what is still known would not be opened anew.
+    removeAdapters([&interfaces](const Adapter &adapter) { return isToBeReopened(adapter, interfaces); });
     for (const auto &address : interfaces) {
         startOnHostAddress(address, m_requestPort, m_responsePort);
     }
@@ -264,6 +262,24 @@ void OrvetPeerWorker::checkForInterfaces()
             return present.hardwareAddress == adapter.hardwareAddress;
         });
     });
+}
+
+// Whether the card is there, but its sockets are of no use: bound to an address that it lost, if only for a
+// moment, or not bound at all, as when the address was so new that the system did not trust it yet. Never so
+// on the any address, which no card loses, nor after stop().
+bool OrvetPeerWorker::isToBeReopened(const Adapter &adapter, const InterfaceAddresses &interfaces)
+{
+    if (adapter.requestSocket.isNull() || adapter.address.interfaceName.isEmpty()) {
+        return false;
+    }
+    const auto isOnCard = [&adapter](const auto &present) {
+        return present.hardwareAddress == adapter.hardwareAddress;
+    };
+    const auto isServed = [&adapter](const auto &present) { return adapter.address.isContinuedBy(present); };
+    const bool isBound = adapter.requestSocket->state() == QAbstractSocket::BoundState
+        && adapter.responseSocket->state() == QAbstractSocket::BoundState;
+    return std::any_of(interfaces.cbegin(), interfaces.cend(), isOnCard)
+        && !(isBound && std::any_of(interfaces.cbegin(), interfaces.cend(), isServed));
 }
 
 template <typename Condition>
@@ -314,7 +330,7 @@ bool OrvetPeerWorker::startOnHostAddress(const NetworkHelper::InterfaceAddress &
 
     qCDebug(lcOrvet) << "Orvet peer started on device" << hardwareAddress;
     const QString ipAddress = address.entry.ip().toString();
-    m_adapters.append({ipAddress, hardwareAddress, requestSocket, responseSocket, address.entry});
+    m_adapters.append({ipAddress, hardwareAddress, requestSocket, responseSocket, address});
     qCInfo(lcOrvet) << "Added port for device" << hardwareAddress << "with ip" << ipAddress;
     return requestSocket->state() != QAbstractSocket::BoundState
         || responseSocket->state() != QAbstractSocket::BoundState;

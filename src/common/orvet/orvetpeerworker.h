@@ -10,7 +10,6 @@
 
 #include <QAtomicInt>
 #include <QHash>
-#include <QNetworkAddressEntry>
 #include <QObject>
 #include <QPointer>
 #include <QUdpSocket>
@@ -71,13 +70,14 @@ private:
         QString hardwareAddress;
         QPointer<QUdpSocket> requestSocket;
         QPointer<QUdpSocket> responseSocket;
-        QNetworkAddressEntry entry;
+        NetworkHelper::InterfaceAddress address;
     };
     struct SocketRole;
     using InterfaceAddresses = QVector<NetworkHelper::InterfaceAddress>;
 
     template <typename Condition>
     void removeAdapters(Condition isGone);
+    static bool isToBeReopened(const Adapter &adapter, const InterfaceAddresses &interfaces);
     InterfaceAddresses usableInterfaces() const;
     bool startOnHostAddress(const NetworkHelper::InterfaceAddress &address, quint16 requestPort,
                             quint16 responsePort);
