@@ -56,10 +56,24 @@ T *livesUntilExit()
 }
 
 #ifdef Q_OS_WIN
+// A click into a console selects its text, and whoever writes to the console then waits until the selection
+// is gone: the next log line would stop the device. A console that was opened for this program alone selects
+// nothing on a click; a shell's is left as it is.
+void disableSelectionByClick()
+{
+    const HANDLE input = GetStdHandle(STD_INPUT_HANDLE);
+    DWORD process = 0;
+    DWORD mode = 0;
+    if (GetConsoleProcessList(&process, 1) == 1 && GetConsoleMode(input, &mode)) {
+        SetConsoleMode(input, (mode | ENABLE_EXTENDED_FLAGS) & ~DWORD(ENABLE_QUICK_EDIT_MODE));
+    }
+}
+
 // Lets the console show escape sequences in log lines, gets it out of the way, and allows any process to
 // bring its window to the front. None of this is worth stopping for when it fails.
 void prepareConsole()
 {
+    disableSelectionByClick();
     const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
     DWORD mode = 0;
     if (output != INVALID_HANDLE_VALUE && GetConsoleMode(output, &mode)) {

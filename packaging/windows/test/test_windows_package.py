@@ -7,6 +7,7 @@ import pathlib
 import re
 import socket
 import subprocess
+import tempfile
 import unittest
 import unittest.mock
 
@@ -99,15 +100,19 @@ class Package(unittest.TestCase):
         self.assertEqual(IDENTITY.read_text(encoding="utf-8"), "THE SAME DEVICE")
 
     def test_double_click(self):
-        """The console that Windows opens with the program is minimised to its title bar."""
+        """The console that Windows opens with the program is minimised to its title bar; a click selects no text there."""
         command = [os.environ["SIMULATOR_LAUNCHER"], "start.exe", "/wait", "/unix", str(PROGRAM)]
-        starter = subprocess.Popen(command)
+        trace = tempfile.TemporaryFile()
+        self.addCleanup(trace.close)
+        starter = subprocess.Popen(command, env={**os.environ, "WINEDEBUG": "+console"}, stderr=trace)
         self.addCleanup(starter.wait)
         self.addCleanup(subprocess.run, ["wine", "taskkill", "/f", "/im", PROGRAM.name])
         harness.wait_until(lambda: re.search(r'Simulator\.exe": .* 160x24\+', windows()), "a small console")
         harness.wait_until(lambda: '"Ravel Monitor Orbis Simulator - Pelmora"' in windows(), "the window")
         subprocess.run(["wine", "taskkill", "/im", PROGRAM.name], check=True)
         self.assertEqual(starter.wait(harness.DEADLINE), 0)
+        trace.seek(0)
+        self.assertIn(b"console_input_ioctl set 1b7 mode", trace.read())  # as it was but for 0x40
 
 
 if __name__ == "__main__":
