@@ -37,14 +37,33 @@ local value_field = ProtoField.string("orbis.value", "Value")
 local text_field = ProtoField.string("orbis.text", "Text")
 orbis.fields = { number_field, name_field, value_field, text_field }
 
+local swapped_echo = ProtoExpert.new("orbis.swapped_echo", "The device swaps the bytes of both fields: it has written",
+                                     expert.group.PROTOCOL, expert.severity.NOTE)
+local no_answer = ProtoExpert.new("orbis.no_answer", "The device did not answer this request",
+                                  expert.group.SEQUENCE, expert.severity.WARN)
+local earlier_unanswered = ProtoExpert.new("orbis.earlier_unanswered", "The request before was not answered",
+                                           expert.group.SEQUENCE, expert.severity.NOTE)
+orbis.experts = { swapped_echo, no_answer, earlier_unanswered }
+
 -- What codes 100 to 103 ask for.
 local questions = { [100] = "Name", [101] = "Descriptor", [102] = "Storage class", [103] = "Value" }
 
-local function_code = Field.new("modbus.func_code")
-local data = Field.new("modbus.data")
-local request_frame = Field.new("modbus.request_frame")
-local register_numbers = Field.new("modbus.regnum16")
-local register_values = Field.new("modbus.regval_uint16")
+-- By frame number: requests, the request that an answer belongs to, and the one that was left without an answer before a
+-- request. Whether a request is answered is known only at a second look at its frame, as Wireshark and "tshark -2" take.
+local requests, request_of, unanswered_before = {}, {}, {}
+local open_request = {} -- by connection: the frame number of the request that waits for its answer
+
+function orbis.init()
+    requests, request_of, unanswered_before, open_request = {}, {}, {}, {}
+end
+
+local function word(bytes, position)
+    return bytes:byte(position) * 256 + bytes:byte(position + 1)
+end
+
+local function add_note(pinfo, text)
+    pinfo.cols.info:append(" [" .. text .. "]")
+end
 
 local function add_property(tree, number)
     local name = properties[number] and properties[number][2] or "unknown"
@@ -55,31 +74,11 @@ local function add_property(tree, number)
     return branch, name
 end
 
--- Answers to codes 100 to 103 don't say which property they are about: frame of the request to property number.
-local asked = {}
-
-function orbis.init()
-    asked = {}
-end
-
-local function show_question(code, pinfo, tree)
-    local address = data()
-    if address and address.len >= 2 then
-        asked[pinfo.number] = math.floor(address.range(0, 2):le_uint() / 2)
-        local _, name = add_property(tree, asked[pinfo.number])
-        pinfo.cols.info:append(" [" .. questions[code] .. " of " .. name .. "]")
-    end
-end
-
-local function show_answer(code, pinfo, tree)
-    local request = request_frame()
-    local number = request and asked[request.value]
-    if number then
-        local branch, name = add_property(tree, number)
-        local text = data() and data().range:string(ENC_UTF_8) or ""
-        branch:add(text_field, text):set_text(questions[code] .. ": " .. text)
-        pinfo.cols.info:append(" [" .. questions[code] .. " of " .. name .. ": " .. text .. "]")
-    end
+local function add_remark(tree, pinfo, kind, text)
+    local branch = tree:add(orbis)
+    branch:set_text("Duo Orbis: " .. text)
+    branch:add_proto_expert_info(kind)
+    add_note(pinfo, text)
 end
 
 local function value_text(kind, low, high)
@@ -91,33 +90,103 @@ local function value_text(kind, low, high)
     return tostring((Struct.unpack("<i4", Struct.pack("<I2I2", low, high))))
 end
 
-local function show_registers(tree)
-    local numbers, words = { register_numbers() }, { register_values() }
-    for i = 1, #words - 1 do
-        local number = numbers[i].value / 2
+-- Every property of which both registers are concerned, with its value if there are "words".
+local function show_registers(first, count, words, pinfo, tree)
+    local shown = {}
+    for i = first % 2, count - 2, 2 do
+        local number = math.floor((first + i) / 2)
         local property = properties[number]
-        if property and property[1] ~= "s" then
-            local branch = add_property(tree, number)
-            branch:add(value_field, value_text(property[1], words[i].value, words[i + 1].value))
+        if property then
+            local branch, text = add_property(tree, number)
+            if #words >= 2 * i + 4 and property[1] ~= "s" then
+                local value = value_text(property[1], word(words, 2 * i + 1), word(words, 2 * i + 3))
+                branch:add(value_field, value)
+                text = text .. " = " .. value
+            end
+            shown[#shown + 1] = text
         end
     end
-end
-
--- Wireshark knows codes 3 and 16 well and calls the others unknown, so this only adds to its view of a frame.
-function orbis.dissector(_, pinfo, tree)
-    local code = function_code()
-    if not code then
-        return
-    elseif not questions[code.value] then
-        show_registers(tree)
-    elseif pinfo.src_port == 502 then
-        show_answer(code.value, pinfo, tree)
-    else
-        show_question(code.value, pinfo, tree)
+    if #shown > 0 then
+        add_note(pinfo, table.concat(shown, ", "))
     end
 end
 
-register_postdissector(orbis)
+-- "unit" is what follows the header: unit identifier, function code, data.
+local function read_request(unit)
+    local request = { code = unit:byte(2), first = 0, count = 0, words = unit:sub(8) }
+    if questions[request.code] and #unit >= 4 then
+        request.property = math.floor((unit:byte(3) + unit:byte(4) * 256) / 2)
+    elseif (request.code == 3 or request.code == 16) and #unit >= 6 then
+        request.first, request.count = word(unit, 3), word(unit, 5)
+    end
+    return request
+end
+
+local function show_request(request, pinfo, tree)
+    if request.property then
+        local _, name = add_property(tree, request.property)
+        add_note(pinfo, questions[request.code] .. " of " .. name)
+    else
+        show_registers(request.first, request.count, request.words, pinfo, tree)
+    end
+    if pinfo.visited and not request.answered then
+        add_remark(tree, pinfo, no_answer, "no answer")
+    end
+    local before = unanswered_before[pinfo.number]
+    if before then
+        add_remark(tree, pinfo, earlier_unanswered, "no answer to frame " .. before)
+    end
+end
+
+local function show_answer(request, unit, pinfo, tree)
+    if request.property then
+        local branch, name = add_property(tree, request.property)
+        local what, text = questions[request.code], unit:sub(3)
+        branch:add(text_field, text):set_text(what .. ": " .. text)
+        add_note(pinfo, what .. " of " .. name .. ": " .. text)
+    elseif request.code == 3 then
+        show_registers(request.first, request.count, unit:sub(4), pinfo, tree)
+    elseif request.code == 16 and #unit >= 6 and request.first == unit:byte(4) * 256 + unit:byte(3) then
+        add_remark(tree, pinfo, swapped_echo, "swapped echo of register " .. request.first)
+    end
+end
+
+local function follow(unit, pinfo, connection, is_request)
+    local open = open_request[connection]
+    if is_request then
+        requests[pinfo.number] = read_request(unit)
+        open_request[connection], unanswered_before[pinfo.number] = pinfo.number, open
+    elseif open and requests[open].code == unit:byte(2) then
+        requests[open].answered = true
+        open_request[connection], request_of[pinfo.number] = nil, requests[open]
+    end
+end
+
+-- Wireshark knows codes 3 and 16 well and calls the others unknown, so this only adds to its view of a frame. The device
+-- takes what arrives together for one request; of several in a frame only the first is looked at.
+local modbus = Dissector.get("mbtcp")
+
+function orbis.dissector(buffer, pinfo, tree)
+    local consumed = modbus:call(buffer, pinfo, tree)
+    local size = buffer:len() > 8 and buffer(4, 2):uint() or 0
+    if size < 2 or buffer:len() < 6 + size then
+        return consumed
+    end
+    local unit = buffer:raw(6, size)
+    local is_request = pinfo.dst_port == 502
+    if not pinfo.visited then
+        local client = is_request and { pinfo.src, pinfo.src_port, pinfo.dst } or { pinfo.dst, pinfo.dst_port, pinfo.src }
+        follow(unit, pinfo, tostring(client[1]) .. " " .. client[2] .. " " .. tostring(client[3]), is_request)
+    end
+    if requests[pinfo.number] then
+        show_request(requests[pinfo.number], pinfo, tree)
+    elseif request_of[pinfo.number] then
+        show_answer(request_of[pinfo.number], unit, pinfo, tree)
+    end
+    return consumed
+end
+
+DissectorTable.get("tcp.port"):add(502, orbis)
 
 local orvet = Proto("orvet", "Orvet discovery")
 local kinds = { D = "Discover", E = "Echo", G = "Get", P = "Put", A = "Apply",
