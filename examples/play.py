@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: MIT
 """Plays a scenario: a second master that moves the simulator's registers while the client under test looks on.
 
-Needs pymodbus 3. A scenario names the registers that it uses and lists its steps, which are played in turn:
+A scenario names the registers that it uses and lists its steps, which are played in turn:
 
   say                              prints a text
   write {NAME: VALUE, ...}         writes the values in this order
@@ -16,32 +16,26 @@ Needs pymodbus 3. A scenario names the registers that it uses and lists its step
 import argparse
 import json
 import socket
-import struct
 import sys
 import time
 
-from pymodbus.client import ModbusTcpClient
-
-FORMATS = {"float": "<f", "int": "<i"}
+from ask import Device
 
 
 class Player:
-    def __init__(self, client, scenario, confirms):
-        self.client = client
+    def __init__(self, device, scenario, confirms):
+        self.device = device
         self.registers = scenario["registers"]
         self.control = scenario.get("control")
         self.confirms = confirms
 
     def write(self, name, value):
         register = self.registers[name]
-        words = struct.unpack("<HH", struct.pack(FORMATS[register["type"]], value))  # low word first
-        # The device echoes address and count byte-swapped, so there is nothing in the answer to compare.
-        self.client.write_registers(register["number"], list(words))
+        self.device.write(register["number"] // 2, float(value) if register["type"] == "float" else value)
 
     def read(self, name):
         register = self.registers[name]
-        words = self.client.read_holding_registers(register["number"], count=2).registers
-        return struct.unpack(FORMATS[register["type"]], struct.pack("<HH", *words))[0]
+        return self.device.read(register["number"] // 2, "f" if register["type"] == "float" else "d")
 
     def play(self, step):
         if "say" in step:
@@ -96,12 +90,13 @@ def main():
 
     with open(arguments.scenario, encoding="utf-8") as file:
         scenario = json.load(file)
-    client = ModbusTcpClient(arguments.host)
-    if not client.connect():
-        sys.exit(f"{arguments.host} does not answer on port 502")
-    player = Player(client, scenario, arguments.confirm)
-    for step in scenario["steps"]:
-        player.play(step)
+    try:
+        with Device(arguments.host) as device:
+            player = Player(device, scenario, arguments.confirm)
+            for step in scenario["steps"]:
+                player.play(step)
+    except OSError as error:
+        sys.exit(f"{arguments.host} does not answer on port 502: {error}")
 
 
 if __name__ == "__main__":
