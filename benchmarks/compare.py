@@ -363,7 +363,7 @@ def report(bench, arguments):
         "# Benchmarks",
         f"Written by `make bench`: {os.cpu_count()} cores of {processor()}, Linux {platform.release()}, "
         f"{arguments.rounds} rounds of {arguments.seconds:g} s for each cell, "
-        f"load of the machine before the start {load:.2f}.",
+        f"load of the machine before the start {load:.2f}. [fleet.md](fleet.md) has the figures of many devices.",
         "All servers run in one interleaved sequence, each cell in a fresh process, load generator and server on the "
         "same machine over the loopback device. Servers with Qt inside run without GLib's "
         "event loop. Every answer is compared byte for byte. The floor is a server on bare epoll, the bare Qt window "

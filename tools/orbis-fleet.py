@@ -1,0 +1,237 @@
+#!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
+# SPDX-License-Identifier: MIT
+"""Runs a fleet: simulated devices on one bridge, with addresses and serial numbers counted up.
+
+  orbis-fleet 20                 until Ctrl+C
+  orbis-fleet 20 -- COMMAND...   while the command runs beside them; hands on its exit code
+
+Device 1 has the address 192.168.4.1, the hardware address 02:00:00:00:00:01 and the serial number SN1. The command
+is at 192.168.7.254 and reaches nothing but the devices. Neither root nor a container engine is needed: bridge and
+devices are in private network namespaces, which end with them.
+
+ORBIS_PROGRAM, if set, is the command line that starts a simulator.
+"""
+
+import argparse
+import contextlib
+import ctypes
+import ipaddress
+import os
+import pathlib
+import shlex
+import shutil
+import signal
+import socket
+import subprocess
+import sys
+import tempfile
+import time
+
+MOST = 1000  # a bridge has 1023 ports
+DEADLINE = 300  # seconds for a device to answer; a thousand of them start at once
+NETWORK = ipaddress.ip_network("192.168.4.0/22")
+CLIENT, CLIENT_CARD = "192.168.7.254", "02:00:00:00:FF:FF"
+# Some clients take no device to have an address that ends in 0 or 255.
+ADDRESSES = [str(host) for host in NETWORK.hosts() if host.packed[3] not in (0, 255) and str(host) != CLIENT]
+
+TOP = pathlib.Path(__file__).resolve().parents[1]  # of the source tree or of the installed program's directory
+
+LIBC = ctypes.CDLL(None, use_errno=True)
+NEW_NETWORK = 0x40000000  # CLONE_NEWNET
+
+
+def say(text):
+    print(text, file=sys.stderr, flush=True)
+
+
+def ip(*commands):
+    subprocess.run(["ip", "-batch", "-"], input="\n".join(commands), text=True, check=True)
+
+
+def current_network():
+    return os.open("/proc/self/ns/net", os.O_RDONLY)
+
+
+def enter(network):
+    if LIBC.setns(network, NEW_NETWORK) != 0:
+        raise OSError(ctypes.get_errno(), "entering a network namespace")
+
+
+def new_network():
+    if LIBC.unshare(NEW_NETWORK) != 0:
+        raise OSError(ctypes.get_errno(), "making a network namespace")
+    return current_network()
+
+
+class Device:
+    """A simulator in a network namespace of its own, started when this is made. "home" is the bridge's namespace."""
+
+    def __init__(self, number, options, home, directory):
+        self.address = ADDRESSES[number - 1]
+        self.serial = f"{options.sn}{number}"
+        self._card = f"02:00:00:00:{number // 256:02X}:{number % 256:02X}"
+        self._log = directory / "log"
+        directory.mkdir()
+        own = new_network()
+        try:
+            self._plug_in(f"port{number}", own, home, options.port_isolation)
+            self.process = self._start(options, directory)
+        finally:
+            enter(home)
+            os.close(own)
+
+    def _plug_in(self, port, own, home, port_isolation):
+        """Before the start: the program looks for cards then, and after that only twice a minute."""
+        # Of a thousand devices not all would hear each other's ARP requests, and connecting would take seconds.
+        ip(f"link add card address {self._card} type veth peer name {port} netns /proc/{os.getpid()}/fd/{home}",
+           f"address add {self.address}/{NETWORK.prefixlen} dev card", "link set lo up",
+           "link set card up addrgenmode none",
+           f"neighbour add {CLIENT} lladdr {CLIENT_CARD} dev card nud permanent")
+        enter(home)
+        ip(f"link set {port} up addrgenmode none master lan",
+           f"link set {port} type bridge_slave isolated {'on' if port_isolation else 'off'}",
+           f"neighbour add {self.address} lladdr {self._card} dev lan nud permanent")
+        enter(own)
+
+    def _start(self, options, directory):
+        with open(self._log, "wb") as log:
+            return subprocess.Popen(["setpriv", "--pdeathsig", "KILL", *options.program, "--sn", self.serial],
+                                    env={**options.environment, "TMPDIR": str(directory), "PROGRAMDATA": str(directory)},
+                                    stdin=subprocess.DEVNULL, stdout=log, stderr=subprocess.STDOUT, start_new_session=True)
+
+    def wait(self):
+        end = time.monotonic() + DEADLINE
+        while not self._is_ready():
+            if time.monotonic() > end or self.process.poll() is not None:
+                sys.exit(f"{self.serial} does not answer. Its log:\n{self._log.read_text(errors='replace')}")
+            time.sleep(0.05)
+
+    def _is_ready(self):
+        try:
+            with socket.create_connection((self.address, 502), timeout=2) as master:
+                master.sendall(bytes.fromhex("000100000004 01 67 1427"))  # the text in register 10004, DEV_SN
+                return master.recv(1024)[8:].decode() == self.serial and self._card in self._log.read_text()
+        except OSError:
+            return False
+
+    def terminate(self):
+        with contextlib.suppress(ProcessLookupError):
+            os.killpg(self.process.pid, signal.SIGTERM)
+
+
+def run_beside(command):
+    """The exit code of the command; without one 0, as soon as the user has had enough."""
+    if not command:
+        say("A client of your own, in another terminal:\n"
+            f"  nsenter --target {os.getpid()} --user --preserve-credentials --net COMMAND...\n"
+            "Ctrl+C ends the fleet.")
+        try:
+            while True:
+                signal.pause()
+        except KeyboardInterrupt:
+            return 0
+    signal.signal(signal.SIGINT, lambda *_: None)  # left to the command, which it also reaches
+    client = subprocess.Popen(command)
+    try:
+        code = client.wait()
+    finally:
+        client.terminate()
+    return code if code >= 0 else 128 - code
+
+
+@contextlib.contextmanager
+def display(environment):
+    """Has the windows drawn on one virtual display for all of them."""
+    sockets = pathlib.Path("/tmp/.X11-unix")
+    sockets.mkdir(mode=0o1777, exist_ok=True)
+    # Network namespaces don't keep X servers from taking each other's sockets, so these get a directory of their own.
+    subprocess.run(["mount", "-t", "tmpfs", "sockets", sockets], check=True)
+    with subprocess.Popen(["Xvfb", "-displayfd", "1", "-nolock", "-maxclients", "2048", "-extension", "GLX"],
+                          stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, start_new_session=True) as server:
+        environment.update(DISPLAY=":" + server.stdout.readline().strip(), QT_QPA_PLATFORM="xcb")
+        try:
+            yield
+        finally:
+            server.terminate()
+
+
+def start_simulations(count, environment):
+    search = ["xdotool", "search", "--onlyvisible", "--name", "^Ravel Monitor Orbis Simulator"]
+    windows = []
+    while len(windows) < count:
+        windows = subprocess.run(search, env=environment, stdout=subprocess.PIPE, text=True, check=False).stdout.split()
+    for window in windows:  # the focus is on the start button
+        subprocess.run(["xdotool", "windowfocus", "--sync", window, "key", "space"], env=environment, check=True)
+
+
+def run(options):
+    ip("link set lo up", f"link add lan address {CLIENT_CARD} type bridge", "link set lan up addrgenmode none",
+       f"address add {CLIENT}/{NETWORK.prefixlen} dev lan")
+    home = current_network()
+    devices = []
+    with tempfile.TemporaryDirectory(prefix="orbis-fleet-") as scratch:
+        try:
+            for number in range(1, options.devices + 1):
+                devices.append(Device(number, options, home, pathlib.Path(scratch, str(number))))
+            for device in devices:
+                device.wait()
+            if options.running:
+                start_simulations(len(devices), options.environment)
+            say(f"{devices[0].serial} to {devices[-1].serial} are at {devices[0].address} to {devices[-1].address}, "
+                f"clients at {CLIENT}.")
+            return run_beside(options.command)
+        finally:
+            signal.signal(signal.SIGINT, signal.SIG_IGN)
+            for device in devices:
+                device.terminate()
+            for device in devices:
+                device.process.wait()
+
+
+def program():
+    if "ORBIS_PROGRAM" in os.environ:
+        return shlex.split(os.environ["ORBIS_PROGRAM"])
+    for place in (TOP, TOP / "build-release"):
+        if (place / "RavelMonitorOrbisSimulator").exists():
+            return [str(place / "RavelMonitorOrbisSimulator")]
+    sys.exit(f"There is no simulator in {TOP}: 'make build PRESET=release' builds it, or name it in ORBIS_PROGRAM.")
+
+
+def isolate():
+    """Starts this program again as root of private namespaces."""
+    unshare = ["unshare", "--user", "--map-root-user", "--net", "--mount"]
+    attempt = subprocess.run([*unshare, "true"], stderr=subprocess.PIPE, text=True, check=False)
+    if attempt.returncode != 0:
+        sys.exit(f"Private namespaces are refused here: {attempt.stderr.strip()}. For root they may be allowed: try sudo.")
+    os.execvp(unshare[0], [*unshare, sys.executable, __file__, "--isolated", *sys.argv[1:]])
+
+
+def main():
+    parser = argparse.ArgumentParser(prog="orbis-fleet", description=__doc__,
+                                     formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--sn", default="SN", help="what the serial numbers begin with")
+    parser.add_argument("--running", action="store_true", help="start the simulations: pressures move (xvfb, xdotool)")
+    parser.add_argument("--port-isolation", action="store_true", help="keep the devices from hearing each other")
+    parser.add_argument("--isolated", action="store_true", help=argparse.SUPPRESS)  # the call from within the namespaces
+    parser.add_argument("devices", type=int, choices=range(1, MOST + 1), metavar="N", help=f"how many, up to {MOST}")
+    parser.add_argument("command", nargs=argparse.REMAINDER, metavar="[--] COMMAND...")
+    options = parser.parse_args()
+    if options.command[:1] == ["--"]:
+        del options.command[0]
+    if options.running and not (shutil.which("Xvfb") and shutil.which("xdotool")):
+        parser.error("--running needs Xvfb and xdotool: apt install xvfb xdotool")
+    if not options.isolated:
+        isolate()
+    options.program = program()
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(128 + signal.SIGTERM))
+    options.environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "QT_NO_GLIB": "1"}
+    try:
+        with display(options.environment) if options.running else contextlib.nullcontext():
+            sys.exit(run(options))
+    except KeyboardInterrupt:
+        sys.exit(128 + signal.SIGINT)
+
+
+if __name__ == "__main__":
+    main()
