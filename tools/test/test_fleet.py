@@ -41,7 +41,7 @@ class Fleet(unittest.TestCase):
                 self.assertEqual(len(devices), 2)
                 fleet.send_signal(number)
                 fleet.wait(harness.DEADLINE)
-                harness.wait_until(lambda: not any(os.path.exists(f"/proc/{device}") for device in devices), "their end")
+                harness.wait_until(lambda: not any(os.path.exists(f"/proc/{device}/exe") for device in devices), "their end")
                 folders = list(pathlib.Path(os.environ["TMPDIR"]).glob("orbis-fleet-*"))
                 self.assertEqual(len(folders), number == signal.SIGKILL)
 
