@@ -95,12 +95,12 @@ void preferQtEventLoop()
 int terminationEvent = -1;
 
 // The first request ends the event loop. Where that is stuck, in a write to a log that nobody reads, a second
-// one ends the process as if nothing had been caught. May interrupt any thread anywhere.
+// one ends the process by itself: on its way here a signal gets its default effect back. May interrupt any
+// thread anywhere.
 void requestTermination(int number)
 {
     static std::atomic_flag isRequested = ATOMIC_FLAG_INIT;
-    if (isRequested.test_and_set()) {
-        (void)std::signal(number, SIG_DFL);
+    if (isRequested.test_and_set()) { // by the other signal
         (void)std::raise(number);
         return;
     }
@@ -121,7 +121,8 @@ void leaveTerminationToEventLoop()
 
     struct sigaction action = {};
     action.sa_handler = requestTermination;
-    action.sa_flags = SA_RESTART; // the log line that it interrupts is not lost
+    // Restarted, the log line that it interrupts is not lost.
+    action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
     for (const int number : {SIGTERM, SIGINT}) {
         struct sigaction previous = {};
         sigaction(number, nullptr, &previous);

@@ -68,7 +68,6 @@ class Torture(harness.TestCase):
                 (disk("", "mount -o remount,ro ."), no_cache, True),
                 (disk("-o size=4k", "head -c 4096 /dev/zero >filler"), no_cache, True),
                 (disk("", f'mkdir "{CONFIGURATION}/sn_cache"'), unreadable, True),
-                (disk("", f'cd "{CONFIGURATION}"; mkfifo sn_cache; ln -s /dev/zero "${{PWD##*/}}.json"'), special, True),
                 (disk("", f'cd "{CONFIGURATION}"; mkfifo "${{PWD##*/}}.json"; ln -s /dev/zero sn_cache'), special, True)]:
             with self.subTest(line):
                 with cause:

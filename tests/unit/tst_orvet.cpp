@@ -145,21 +145,6 @@ private slots:
         }
     }
 
-    void reportsDuringStandstill()
-    {
-        OrvetPeer peer;
-        QSignalSpy reports(&peer, SIGNAL(getResponseReceived(OrvetInformation)));
-        peer.start(requestPort, responsePort);
-        QTest::ignoreMessage(QtWarningMsg, "Dropping responses until those received are dealt with: 1000");
-        for (int i = 0; i < 1500; ++i) {
-            broadcast(m_sender, "g", responsePort);
-            peer.value("key"_s); // the other thread has a turn
-        }
-        peer.value("key"_s);
-        QCoreApplication::processEvents();
-        QCOMPARE(reports.count(), 1000);
-    }
-
     // What must stay unanswered is followed by a request whose answer then has to come first.
     void answersOnTheWire()
     {
@@ -205,6 +190,17 @@ private slots:
         QTRY_VERIFY(!discovered.isEmpty());
         QCOMPARE(summary(discovered.first().first().value<OrvetInformation>()), "00:11:22:33:44:5f, 1.2.3.4, Box, Lab"_s);
         QCOMPARE(got.first().first().value<OrvetInformation>().properties, QVariantMap({{"a"_s, "1"_s}}));
+
+        // This thread stands still while the other one has a turn for each datagram.
+        QTest::ignoreMessage(QtWarningMsg, "Dropping responses until those received are dealt with: 1000");
+        discovered.clear();
+        got.clear();
+        for (int n = 0; n < 1000; ++n) {
+            broadcast(m_sender, "g", responsePort);
+            peer.value("key"_s);
+        }
+        peer.value("key"_s);
+        QTRY_COMPARE(discovered.count() + got.count(), 1000);
     }
 
     void cardsComeAndGo()
