@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>0x32278010</source>
-        <translation>Quillon Pulse : inscription refusée. Vérifier réseau et code.</translation>
+        <translation>Quillon Pulse : échec de l’inscription. Vérifier réseau et code.</translation>
     </message>
     <message>
         <source>0x322d0011</source>
@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>0x322e0023</source>
-        <translation>Intervalle de maintenance dépassé. Ne pas utiliser.</translation>
+        <translation>Maintenance échue. Ne pas utiliser avant intervention.</translation>
     </message>
     <message>
         <source>0x322f0009</source>
@@ -273,7 +273,7 @@
     </message>
     <message>
         <source>0x410f000c</source>
-        <translation>Pression d’air faible. Rechercher les fuites.</translation>
+        <translation>Pression d’air faible. Rechercher les fuites des conduites.</translation>
     </message>
     <message>
         <source>0x41120007</source>

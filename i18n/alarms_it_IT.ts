@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>0x322e0023</source>
-        <translation>Intervallo di manutenzione superato. Sospendere l’uso.</translation>
+        <translation>Manutenzione in ritardo. Non usare prima dell’intervento.</translation>
     </message>
     <message>
         <source>0x322f0009</source>
@@ -273,7 +273,7 @@
     </message>
     <message>
         <source>0x410f000c</source>
-        <translation>Pressione dell’aria bassa. Cercare eventuali perdite.</translation>
+        <translation>Pressione dell’aria bassa. Cercare perdite nelle tubazioni.</translation>
     </message>
     <message>
         <source>0x41120007</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>0x48240102</source>
-        <translation>L’intestazione dell’apparecchio non contiene REF né DEV_SN.</translation>
+        <translation>L’intestazione dell’apparecchio non contiene né REF né DEV_SN.</translation>
     </message>
     <message>
         <source>0x48240103</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>0x95000005</source>
-        <translation>Sensore di ingresso impegnato troppo a lungo?</translation>
+        <translation>Sensore di ingresso ostruito troppo a lungo?</translation>
     </message>
 </context>
 </TS>

@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>0x322e0023</source>
-        <translation>Onderhoudsinterval overschreden. Niet gebruiken.</translation>
+        <translation>Onderhoud te laat. Pas na onderhoud weer gebruiken.</translation>
     </message>
     <message>
         <source>0x322f0009</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>0x95000005</source>
-        <translation>Ingangssensor te lang bezet?</translation>
+        <translation>Ingangssensor te lang geblokkeerd?</translation>
     </message>
 </context>
 </TS>

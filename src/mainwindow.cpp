@@ -150,7 +150,7 @@ void MainWindowPrivate::setTitle()
 void MainWindowPrivate::fitWindow()
 {
     ui->verticalLayout->activate(); // the least size that it set before would keep the window from shrinking
-    if (!q->isMaximized()) {
+    if (!q->isMaximized() && !q->isFullScreen()) {
         q->resize(q->sizeHint()); // adjustSize() stops at two thirds of the screen
     }
 }
