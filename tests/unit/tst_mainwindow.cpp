@@ -140,6 +140,7 @@ private slots:
         // Without a translation the catalogue's own messages show, the later row of a signature in place of the
         // earlier.
         delete m_languages;
+        QApplication::setFont(QFont(QFont().family(), 16)); // with which some entries are too long, on any platform
         m_window->setAlarmSelectionEnabled(true);
         const auto *alarms = m_window->findChild<QComboBox *>("alarmList"_s);
         QStringList entries;

@@ -72,7 +72,10 @@ void writeMessage(QtMsgType type, const QMessageLogContext &context, const QStri
 
 void LogWriter::install()
 {
-    qAddPostRoutine(writePending);
+    qAddPostRoutine([] {
+        qInstallMessageHandler(nullptr);
+        writePending();
+    });
     qInstallMessageHandler(writeMessage);
 }
 

@@ -8,6 +8,8 @@
 #include "common/helpers/systemhelper.h"
 #include "common/modbus/socketwatch.h"
 
+#include <QElapsedTimer>
+
 #include <algorithm>
 
 namespace {
@@ -37,6 +39,7 @@ ModbusConnections::ModbusConnections(const Predicate &takesLong, QObject *parent
     m_longRequestTimer.setSingleShot(true);
     connect(&m_longRequestTimer, &QTimer::timeout, this, &ModbusConnections::handOverLongRequest);
     connect(m_watch, &SocketWatch::ready, this, &ModbusConnections::serve);
+    connect(m_watch, &SocketWatch::held, this, [this](QAbstractSocket *master) { m_jammed.insert(master); });
 }
 
 bool ModbusConnections::start(quint16 port)
@@ -65,6 +68,11 @@ void ModbusConnections::incomingConnection(qintptr descriptor)
     master->setSocketOption(QAbstractSocket::KeepAliveOption, 1);
     master->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     qCDebug(lcModbus) << "Modbus master" << master->peerAddress().toString() << "connected.";
+    connect(master, &QObject::destroyed, this, [this, master] {
+        m_jammed.remove(master);
+        --m_masters;
+        acceptFurther();
+    });
     m_watch->add(master);
 
     // Qt's server spins when descriptors run out, and the single-instance channel closes for good. So masters
@@ -120,7 +128,11 @@ void ModbusConnections::serve(QAbstractSocket *master)
 {
     // A master that does not fetch its answer has to wait with its next request: otherwise all of them would
     // pile up here.
-    if (!master->isValid() || master->bytesToWrite() > 0 || isWaiting(master)) {
+    if (master->bytesToWrite() > 0) {
+        m_jammed.insert(master);
+        return;
+    }
+    if (master->state() != QAbstractSocket::ConnectedState || isWaiting(master)) {
         return;
     }
     m_buffer.resize(readSize);
@@ -130,12 +142,19 @@ void ModbusConnections::serve(QAbstractSocket *master)
         return;
     }
     m_buffer.resize(static_cast<int>(size));
+    if (m_jammed.remove(master)) {
+        qCInfo(lcModbus) << "Modbus master" << master->peerAddress().toString()
+                         << "did not fetch its answers; the" << size
+                         << "bytes that it sent meanwhile are taken as one request.";
+    }
     if (size == readSize) {
         m_watch->lookAgain(master);
     }
     if (size > 0 && m_takesLong(m_buffer)) {
-        m_longRequests.enqueue({master, m_buffer});
-        m_longRequestTimer.start();
+        m_longRequests.enqueue({master, QByteArray(m_buffer.constData(), m_buffer.size())});
+        if (!m_longRequestTimer.isActive()) {
+            m_longRequestTimer.start(0);
+        }
     } else if (size > 0) {
         handOver(master, QByteArray(m_buffer)); // a copy, as a receiver may run an event loop
     }
@@ -147,16 +166,20 @@ bool ModbusConnections::isWaiting(const QAbstractSocket *master) const
                        [master](const LongRequest &request) { return request.master == master; });
 }
 
+// However many wait, all others have half of the time.
 void ModbusConnections::handOverLongRequest()
 {
-    const LongRequest request = m_longRequests.dequeue();
-    if (!m_longRequests.isEmpty()) {
-        m_longRequestTimer.start();
+    if (m_longRequests.isEmpty()) {
+        return;
     }
+    const LongRequest request = m_longRequests.dequeue();
+    QElapsedTimer duration;
+    duration.start();
     if (request.master && request.master->isValid()) {
         m_watch->lookAgain(request.master);
         handOver(request.master, request.bytes);
     }
+    m_longRequestTimer.start(static_cast<int>(duration.elapsed()));
 }
 
 void ModbusConnections::handOver(QAbstractSocket *master, const QByteArray &bytes)
@@ -177,21 +200,16 @@ void ModbusConnections::waitUntilFetched(QAbstractSocket *master)
         if (master->bytesToWrite() > 0) {
             return;
         }
-        master->disconnect(this);
-        if (const qint64 waiting = master->bytesAvailable()) {
-            qCInfo(lcModbus) << "Modbus master" << master->peerAddress().toString()
-                             << "did not fetch its answer; the" << waiting
-                             << "bytes that it sent meanwhile are taken as one request.";
-        }
+        disconnect(master, &QAbstractSocket::disconnected, this, nullptr);
+        disconnect(master, &QAbstractSocket::bytesWritten, this, nullptr);
         m_watch->lookAgain(master);
     });
 }
 
 void ModbusConnections::drop(QAbstractSocket *master)
 {
-    master->disconnect(this);
+    disconnect(master, &QAbstractSocket::disconnected, this, nullptr);
+    disconnect(master, &QAbstractSocket::bytesWritten, this, nullptr);
     master->abort();
     master->deleteLater();
-    --m_masters;
-    acceptFurther();
 }

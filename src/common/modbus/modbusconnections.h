@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QPointer>
 #include <QQueue>
+#include <QSet>
 #include <QTcpServer>
 #include <QTimer>
 
@@ -30,7 +31,8 @@ class ModbusConnections : public QTcpServer
 public:
     using Predicate = std::function<bool(const QByteArray &bytes)>;
 
-    // Requests that take long are handed over after all others, one in each turn of the event loop.
+    // Requests that take long are handed over after all others, one at a time and with as long a pause as the
+    // last one took.
     explicit ModbusConnections(const Predicate &takesLong, QObject *parent = nullptr);
 
     // Listens on all addresses at the port; false if it cannot be bound.
@@ -68,7 +70,8 @@ private:
     QTimer m_longRequestTimer;
     SocketWatch *const m_watch;
     const int m_maximumMasters;
-    int m_masters = 0;
+    QSet<const QObject *> m_jammed; // who sent something while its answers did not leave
+    int m_masters = 0; // sockets that are not deleted yet
     int m_acceptedThisTurn = 0;
     QByteArray m_buffer; // kept between requests for its memory
     QTimer m_restartTimer;

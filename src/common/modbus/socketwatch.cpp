@@ -49,6 +49,7 @@ void SocketWatch::announce(QAbstractSocket *socket)
     if (!socket->isValid() || hasRoomForAnswer(*socket)) {
         emit ready(socket);
     } else {
+        emit held(socket);
         QTimer::singleShot(roomRetryMs, socket, [this, socket] { announce(socket); });
     }
 }
@@ -106,28 +107,31 @@ bool SocketWatch::control(int operation, int descriptor) const
 
 void SocketWatch::deliver()
 {
-    constexpr quint32 request = EPOLLIN | EPOLLOUT;
-    constexpr quint32 failure = EPOLLERR | EPOLLHUP;
     std::array<epoll_event, socketsPerTurn> events = {};
     const int count = epoll_wait(m_epoll, events.data(), socketsPerTurn, 0);
     for (int i = 0; i < count; ++i) {
         const epoll_event &event = events.at(static_cast<std::size_t>(i));
-        const bool isReady = (event.events & request) == request || (event.events & failure) != 0;
-        if (isReady) {
-            deliver(event.data.fd);
-        }
+        deliver(event.data.fd, event.events);
         // One read may have taken the last request, another takes the end of the connection.
-        if (isReady && (event.events & EPOLLRDHUP) != 0) {
-            deliver(event.data.fd);
+        if ((event.events & EPOLLRDHUP) != 0) {
+            deliver(event.data.fd, event.events);
         }
     }
 }
 
 // By descriptor, as a socket may go while others of its turn are served.
-void SocketWatch::deliver(int descriptor)
+void SocketWatch::deliver(int descriptor, quint32 events)
 {
-    if (QAbstractSocket *socket = m_sockets.value(descriptor)) {
+    constexpr quint32 request = EPOLLIN | EPOLLOUT;
+    constexpr quint32 failure = EPOLLERR | EPOLLHUP;
+    QAbstractSocket *socket = m_sockets.value(descriptor);
+    if (!socket) {
+        return;
+    }
+    if ((events & request) == request || (events & failure) != 0) {
         emit ready(socket);
+    } else if ((events & EPOLLIN) != 0) {
+        emit held(socket);
     }
 }
 

@@ -31,6 +31,9 @@ public:
     void lookAgain(QAbstractSocket *socket);
 
 signals:
+    // Something has arrived, but the system has no room for an answer. ready() follows when there is.
+    void held(QAbstractSocket *socket);
+
     // Something has arrived, be it the end of the connection, and an answer would be taken at once. Emitted
     // once for what has arrived, whether the receiver reads it or not.
     void ready(QAbstractSocket *socket);
@@ -40,7 +43,7 @@ private:
 #ifdef Q_OS_LINUX
     bool control(int operation, int descriptor) const;
     void deliver();
-    void deliver(int descriptor);
+    void deliver(int descriptor, quint32 events);
 
     const int m_epoll;
     QHash<int, QPointer<QAbstractSocket>> m_sockets; // by descriptor
