@@ -8,6 +8,8 @@
 
 #include <QStringList>
 
+#include <cctype>
+
 namespace {
 
 constexpr int hardwareAddressPosition = 2; // behind the letter and a blank
@@ -22,6 +24,22 @@ QByteArray writeRequest(const QString &form, const QString &hardwareAddress, con
         lines << property.key() + QLatin1Char('=') + property.value();
     }
     return form.arg(hardwareAddress, lines.join(QLatin1Char('\n'))).toUtf8();
+}
+
+// The usual form, six pairs of hexadecimal digits with colons. Each device hears the answers of all others,
+// and the loose pattern, which accepts this form as well, takes most of the time of reading one.
+bool isPlainHardwareAddress(const QString &text)
+{
+    if (text.size() != hardwareAddressLength) {
+        return false;
+    }
+    for (int i = 0; i < text.size(); ++i) {
+        const char character = text.at(i).toLatin1();
+        if (i % 3 == 2 ? character != ':' : std::isxdigit(static_cast<unsigned char>(character)) == 0) {
+            return false;
+        }
+    }
+    return true;
 }
 
 struct Title
@@ -113,7 +131,7 @@ std::optional<OrvetInformation> OrvetPackets::parseDiscoverResponse(const QByteA
         ipAddress = addresses.at(1);
         titlePosition = 1;
     }
-    if (!NetworkHelper::isValidMacAddress(hardwareAddress)) {
+    if (!isPlainHardwareAddress(hardwareAddress) && !NetworkHelper::isValidMacAddress(hardwareAddress)) {
         qCWarning(lcOrvet) << "Invalid packet format" << packet << "hardware address invalid"
                            << hardwareAddress;
         return {};
