@@ -37,6 +37,7 @@ ADDRESSES = [str(host) for host in NETWORK.hosts() if host.packed[3] not in (0, 
 
 TOP = pathlib.Path(__file__).resolve().parents[1]  # of the source tree or of the installed program's directory
 
+ENDS = (signal.SIGTERM, signal.SIGHUP)
 LIBC = ctypes.CDLL(None, use_errno=True)
 NEW_NETWORK = 0x40000000  # CLONE_NEWNET
 
@@ -132,7 +133,11 @@ def run_beside(command):
         except KeyboardInterrupt:
             return 0
     signal.signal(signal.SIGINT, lambda *_: None)  # left to the command, which it also reaches
-    client = subprocess.Popen(command)
+    try:
+        client = subprocess.Popen(command)
+    except OSError as error:
+        say(f"{command[0]}: {error.strerror}")
+        return 127
     try:
         code = client.wait()
     finally:
@@ -182,7 +187,8 @@ def run(options):
                 f"clients at {CLIENT}.")
             return run_beside(options.command)
         finally:
-            signal.signal(signal.SIGINT, signal.SIG_IGN)
+            for number in (signal.SIGINT, *ENDS):
+                signal.signal(number, signal.SIG_IGN)
             for device in devices:
                 device.terminate()
             for device in devices:
@@ -224,8 +230,9 @@ def main():
     if not options.isolated:
         isolate()
     options.program = program()
-    signal.signal(signal.SIGTERM, lambda *_: sys.exit(128 + signal.SIGTERM))
-    options.environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "QT_NO_GLIB": "1"}
+    for number in ENDS:
+        signal.signal(number, lambda number, _: sys.exit(128 + number))
+    options.environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
     try:
         with display(options.environment) if options.running else contextlib.nullcontext():
             sys.exit(run(options))
