@@ -91,12 +91,13 @@ def main():
     with open(arguments.scenario, encoding="utf-8") as file:
         scenario = json.load(file)
     try:
-        with Device(arguments.host) as device:
-            player = Player(device, scenario, arguments.confirm)
-            for step in scenario["steps"]:
-                player.play(step)
-    except OSError as error:
-        sys.exit(f"{arguments.host} does not answer on port 502: {error}")
+        device = Device(arguments.host)
+    except OSError:
+        sys.exit(f"{arguments.host} does not answer on port 502")
+    with device:
+        player = Player(device, scenario, arguments.confirm)
+        for step in scenario["steps"]:
+            player.play(step)
 
 
 if __name__ == "__main__":
