@@ -142,7 +142,7 @@ void ModbusConnections::serve(QAbstractSocket *master)
         return;
     }
     m_buffer.resize(static_cast<int>(size));
-    if (m_jammed.remove(master)) {
+    if (size > 0 && m_jammed.remove(master)) {
         qCInfo(lcModbus) << "Modbus master" << master->peerAddress().toString()
                          << "did not fetch its answers; the" << size
                          << "bytes that it sent meanwhile are taken as one request.";

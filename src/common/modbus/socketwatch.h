@@ -35,7 +35,7 @@ signals:
     void held(QAbstractSocket *socket);
 
     // Something has arrived, be it the end of the connection, and an answer would be taken at once. Emitted
-    // once for what has arrived, whether the receiver reads it or not.
+    // once for what has arrived, whether the receiver reads it or not, and once more for the end.
     void ready(QAbstractSocket *socket);
 
 private:
