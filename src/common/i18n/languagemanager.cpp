@@ -26,7 +26,7 @@ QString languageKey()
     return QStringLiteral("/language");
 }
 
-// Two substitutions in turn: place markers in the directory are filled like those of the pattern.
+// Two substitutions, one after the other: placeholders in the directory are filled like those of the pattern.
 QString filled(const QString &pattern, const QString &directory, const QString &code)
 {
     const QString directoryFilled = pattern.arg(directory);
@@ -222,7 +222,7 @@ void LanguageManager::requestAvailableLanguages()
 
 void LanguageManager::setCultures(const QList<QString> &cultures)
 {
-    // Cultures narrow nothing down: every language that was found is offered.
+    // Cultures do not limit the choice: every language that was found is offered.
     Q_UNUSED(cultures)
     requestAvailableLanguages();
 }

@@ -20,18 +20,18 @@ class LanguageManagerPrivate;
 class LanguageManager : public QObject
 {
     Q_OBJECT
-    // Always empty. A text that is bound to it is worked out anew whenever the language changes.
+    // Always empty. A text bound to it is evaluated again whenever the language changes.
     Q_PROPERTY(QString emptyString READ emptyString NOTIFY languageChanged)
     Q_PROPERTY(QString currentLanguage READ currentLanguage NOTIFY languageChanged)
 
 public:
     // Loads the languages found in the search paths and sets one: the stored language or else the system's,
-    // one that begins like the system's, or "en_GB". Where a search path is missing, it and those behind it
-    // are left out.
+    // one that begins like the system's, or "en_GB". A missing search path is skipped along with all that
+    // follow it.
     LanguageManager(const QString &path, QObject *parent);
     LanguageManager(const QStringList &paths, QObject *parent);
 
-    // The manager that was made first, as long as it lives, or else null.
+    // The manager that was created first, while it exists; otherwise null.
     static LanguageManager *instance();
 
     // The directory of translations that belongs to a program in baseDirectory; baseDirectory itself, with a
@@ -40,14 +40,14 @@ public:
 
     QString emptyString() const;
 
-    // Empty until a language was set.
+    // Empty until a language is set.
     QString currentLanguage() const;
 
     // Name of the language in the language itself, with a capital first letter.
     Q_INVOKABLE QString languageName(const QString &code) const;
 
-    // Texts in the short format of the current language; empty for an invalid date or time. UTC is turned
-    // into local time, and a date-time at midnight sharp gives the date alone.
+    // Texts in the short format of the current language; empty for an invalid date or time. UTC is converted
+    // to local time, and a date-time at exactly midnight gives the date alone.
     Q_INVOKABLE QString localDateTimeString(const QDateTime &dateTime) const;
     Q_INVOKABLE QString localDateString(const QDate &date) const;
     Q_INVOKABLE QString localDateStringFromIsoString(const QString &date) const;

@@ -16,7 +16,7 @@ using StringMap = QMap<QString, QString>;
 // What one response tells about a device. A discover response fills the texts, a get response the properties.
 struct OrvetInformation
 {
-    int number = 0; // of no use here and always 0
+    int number = 0; // unused, always 0
     QString hardwareAddress; // in lower case
     QString ipAddress;
     QString name;

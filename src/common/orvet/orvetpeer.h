@@ -9,7 +9,7 @@
 
 class OrvetPeerPrivate;
 
-// Front of the discovery protocol: makes this program known as a device on every network card, and finds,
+// Front of the discovery protocol: announces this program as a device on every network interface, and finds,
 // reads and changes other devices.
 //
 // All work is done by an OrvetPeerWorker on a thread of its own, which runs as long as the peer exists. The
@@ -24,13 +24,13 @@ class OrvetPeer : public QObject
     Q_OBJECT
 
 public:
-    // Nothing reports an error so far; failures are logged.
+    // Nothing reports an error yet; failures are logged.
     enum OrvetError { NoError, BindError, SendError };
 
     explicit OrvetPeer(QObject *parent = nullptr);
 
     // The device's own text under the key, empty when there is none. Waits until the discovery thread has
-    // worked off the calls made before, so it must not be called on that thread.
+    // processed all earlier calls, so it must not be called on that thread.
     QString value(const QString &key) const;
 
 signals:
@@ -43,8 +43,8 @@ signals:
     void error(OrvetPeer::OrvetError error);
 
 public slots:
-    // Opens the protocol on every network card and keeps watching for cards that come and go. All peers of a
-    // network have to use the same two UDP ports. A second start is refused.
+    // Opens the protocol on every network interface and keeps watching for interfaces that come and go. All
+    // peers of a network have to use the same two UDP ports. A second start is refused.
     void start(quint16 requestPort, quint16 responsePort);
 
     // Closes the sockets for good: a stopped peer cannot be started again.
@@ -59,8 +59,8 @@ public slots:
     // Asks one device for its properties.
     void get(const QString &hardwareAddress);
 
-    // Sends one device properties to put or to apply. What it makes of them is its own affair: there is no
-    // answer.
+    // Sends one device properties to put or to apply. There is no answer, so the sender does not learn what
+    // the device did with them.
     void put(const QString &hardwareAddress, const QString &key, const QString &value);
     void put(const QString &hardwareAddress, const QMap<QString, QString> &properties);
     void apply(const QString &hardwareAddress, const QString &key, const QString &value);
@@ -77,7 +77,7 @@ public slots:
     // Sets one of this device's own properties. They are listed in the order in which they were first set.
     void setValue(const QString &key, const QString &value);
 
-    // Keeps cards with this hardware address out (or allows them again) from the next interface check on.
+    // Keeps interfaces with this hardware address out, or lets them in again, from the next check on.
     void setNetworkAddressState(const QString &address, bool enable);
 
 private:

@@ -52,7 +52,7 @@ Title parseTitle(const QString &text, const QString &packet)
 {
     const QStringList fields = text.split(tab, Qt::SkipEmptyParts);
     if (fields.size() == 1) {
-        // Either text may be missing and nothing tells which: the one that is there serves as the name.
+        // Either text may be missing and nothing tells which, so the one that is there serves as the name.
         qCDebug(lcOrvet) << "Packet contains no device name" << packet;
         return {fields.at(0), {}};
     }

@@ -18,7 +18,7 @@ struct OrvetProperty
 {
     QString key;
     QString value;
-    bool flag = false; // part of the record, without a use so far
+    bool flag = false; // part of the record, unused so far
 };
 
 namespace OrvetPackets {
@@ -38,7 +38,7 @@ QByteArray discoverResponse(const QString &hardwareAddress, const QString &ipAdd
 // "g <hardware address>TAB", then "<key>=<value>LF" for each property
 QByteArray getResponse(const QString &hardwareAddress, const QVector<OrvetProperty> &properties);
 
-// The hardware address that a get request asks for; whatever is there of it when the packet is short.
+// The hardware address that a get request asks for; as much of it as there is when the packet is short.
 QString wantedHardwareAddress(const QByteArray &getRequest);
 
 // Reads a discover response, in the form above or with a TAB between hardware and IP address. Anything else

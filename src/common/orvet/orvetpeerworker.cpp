@@ -20,8 +20,8 @@ constexpr int interfaceCheckIntervalMs = 30000;
 constexpr int datagramsPerTurn = 4;
 constexpr qint64 maximumDatagramSize = 65535;
 
-// Many more than devices answer at once, each in one Ethernet frame. But anybody may send responses, at any
-// rate; waiting, each takes some ten times its size, so that of longer ones fewer may wait.
+// Far more than the answers that arrive at once from any network, each in one Ethernet frame. But anybody may
+// send responses at any rate, and a waiting one takes some ten times its size, so fewer long ones may wait.
 constexpr int maximumUndeliveredReports = 1000;
 constexpr int maximumUndeliveredSize = maximumUndeliveredReports * 1500;
 
@@ -252,7 +252,7 @@ void OrvetPeerWorker::processRequest()
 void OrvetPeerWorker::checkForInterfaces()
 {
     const InterfaceAddresses interfaces = usableInterfaces();
-    // Only these go before anything is opened: what is still known would not be opened anew.
+    // Only these go before anything is opened: an address that is still known would not be opened again.
     removeAdapters([&interfaces](const Adapter &adapter) { return isToBeReopened(adapter, interfaces); });
     for (const auto &address : interfaces) {
         startOnHostAddress(address, m_requestPort, m_responsePort);
@@ -264,9 +264,9 @@ void OrvetPeerWorker::checkForInterfaces()
     });
 }
 
-// Whether the card is there, but its sockets are of no use: bound to an address that it lost, if only for a
-// moment, or not bound at all, as when the address was so new that the system did not trust it yet. Never so
-// on the any address, which no card loses, nor after stop().
+// Whether the interface is there, but its sockets are useless: bound to an address that it lost, if only for
+// a moment, or not bound at all, as when the system was still checking a new address. Never the case on the
+// any address, which no interface loses, nor after stop().
 bool OrvetPeerWorker::isToBeReopened(const Adapter &adapter, const InterfaceAddresses &interfaces)
 {
     if (adapter.requestSocket.isNull() || adapter.address.interfaceName.isEmpty()) {
@@ -372,7 +372,7 @@ void OrvetPeerWorker::answer(const QByteArray &request, const QString &hardwareA
     case 'E':
     case 'P':
     case 'A':
-        break; // this device lets nobody change its properties
+        break; // nobody may change the properties of this device
     default:
         qCWarning(lcOrvet) << "Received invalid request type.";
     }

@@ -20,18 +20,18 @@ class QTimer;
 // Does the socket work of the discovery protocol: as a device it answers requests, as a requester it sends
 // them and reads the answers. OrvetPeer describes the slots.
 //
-// Every packet, answers included, goes to the limited broadcast address from a socket on one network card, so
-// two sockets are kept open for each card. Lives on the discovery thread, where its event loop runs, and
-// takes calls from other threads queued only. Datagrams come from anybody: what makes no sense is logged or
-// dropped.
+// Every packet, answers included, goes to the limited broadcast address from a socket on one network
+// interface, so two sockets are kept open for each. Lives on the discovery thread, where its event loop runs,
+// and takes calls from other threads queued only. Datagrams come from anybody: what makes no sense is logged
+// or dropped.
 class OrvetPeerWorker : public QObject
 {
     Q_OBJECT
 
 public:
-    // Who hears the reports on another thread may be late, and has them counted: the worker adds one for
-    // each report, the receiver takes one away when it arrives. Beyond a thousand, of long ones fewer, they
-    // are dropped with a warning.
+    // A receiver on another thread may fall behind, so undelivered reports are counted: the worker adds one
+    // for each report, the receiver takes one away when it arrives. Beyond a thousand, or fewer long ones,
+    // they are dropped with a warning.
     explicit OrvetPeerWorker(QAtomicInt *undeliveredReports = nullptr);
 
     Q_INVOKABLE QString value(const QString &key) const;
@@ -63,7 +63,7 @@ private slots:
     void checkForInterfaces();
 
 private:
-    // A network card in use. The sockets are the worker's children and gone after stop().
+    // A network interface in use. The sockets are the worker's children and gone after stop().
     struct Adapter
     {
         QString ipAddress;
@@ -90,7 +90,7 @@ private:
     void answerGet(const QString &hardwareAddress);
 
     QAtomicInt *const m_undeliveredReports;
-    bool m_isDropping = false; // from the first report too many until all are delivered
+    bool m_isDropping = false; // from the first dropped report until all others are delivered
     QHash<QString, bool> m_addressStates;
     QTimer *m_interfaceTimer = nullptr; // its existence means that the worker was started
     QString m_name;

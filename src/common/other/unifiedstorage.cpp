@@ -87,8 +87,7 @@ bool isNativeType(QVariant::Type type)
 void addMember(QVariantMap &members, const QString &key, const QVariant &value)
 {
     if (UnifiedStoragePrivate::isMappedType(value.userType())) {
-        // The type's name is filled into what the key has left, so that place markers of the key take it
-        // first.
+        // Two steps, so that placeholders in the key are filled with the type's name first.
         const QString keyFilled = QStringLiteral("mapped://%1?%2").arg(key);
         const QString name = keyFilled.arg(QLatin1String(QMetaType::typeName(value.userType())));
         members.insert(name, UnifiedStoragePrivate::convertToMap(value));
@@ -310,7 +309,7 @@ void UnifiedStorage::loadSnapshot(const QString &path, bool keepCurrent)
 {
     const QFileInfo info(path);
     QFile file(path);
-    // A FIFO would wait for its writer, and a device need not end.
+    // A FIFO would wait for its writer, and a device may never end.
     if (!info.isFile() || info.size() > maxSnapshotSize || !file.open(QIODevice::ReadOnly)) {
         qCCritical(lcCore) << "Failed reading bucket snapshot from" << path;
         return;

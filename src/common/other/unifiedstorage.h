@@ -40,8 +40,8 @@ public slots:
     QVariant restore(const QString &uri, const QVariant &fallback = QVariant());
     void remove(const QString &uri);
 
-    // Removes the keys in which the pattern matches behind their first character. A match right at the
-    // beginning does not count.
+    // Removes the keys in which the pattern matches after the first character. A match at the very beginning
+    // does not count.
     void remove(const QRegExp &pattern);
 
     // Restores and removes in two steps, between which other threads may change the value.

@@ -63,8 +63,8 @@ void UrlListenerPeerPrivate::newConnection()
 }
 
 // Qt's server closes for good when descriptors run out, and anybody on this machine may connect and stay
-// silent: for 30 seconds, or until there are too many. Who hands over a URL writes it on connecting, so the
-// longest silent one has the least to say, and a newcomer is heard whoever else is there.
+// silent: for 30 seconds, or until there are too many. A sender of a URL writes it on connecting, so the one
+// that has been silent longest is the least likely to have one, and a newcomer always gets in.
 void UrlListenerPeerPrivate::admit(QLocalSocket *sender)
 {
     m_silentSenders.append(sender);

@@ -13,8 +13,8 @@ class UrlListenerPeerPrivate;
 // that called startServer() hears the URLs that others hand over with sendUrl(). Main thread only.
 //
 // Each connection carries one message and nothing comes back: the length of the encoded URL (32 bits,
-// big-endian) and that many bytes, or FF FF FF FF alone for an empty URL. Whatever else arrives is dropped
-// without a word.
+// big-endian) and that many bytes, or FF FF FF FF alone for an empty URL. Anything else is dropped without a
+// log line.
 class UrlListenerPeer : public QObject
 {
     Q_OBJECT
@@ -24,12 +24,12 @@ public:
     // place.
     UrlListenerPeer(QObject *parent, const QString &name);
 
-    // The peer made last under that name. Asking for a name without a peer is a mistake and is reported like
-    // a failed allocation (std::bad_alloc).
+    // The peer created last under that name. Asking for a name without a peer is a programming error and is
+    // reported like a failed allocation (std::bad_alloc).
     static UrlListenerPeer *instance(const QString &name);
 
-    // Listens under the peer's name. An endpoint that a crashed instance left is removed; without success the
-    // program runs on, with a warning.
+    // Listens under the peer's name. An endpoint that a crashed instance left is removed. On failure there is
+    // a warning, and the program runs on.
     void startServer();
 
 public slots:

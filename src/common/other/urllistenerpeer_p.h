@@ -40,8 +40,8 @@ private:
     void dropLongestSilent();
     QUrl readMessage(QIODevice *device);
 
-    // Who has connected and said nothing yet, the longest silent first.
+    // Senders that have connected and written nothing yet, the longest silent first.
     QList<QLocalSocket *> m_silentSenders;
     const int m_maximumSenders;
-    bool m_isCrowded = false; // from the first sender too many until all are gone
+    bool m_isCrowded = false; // from the first sender that is cut off until all are gone
 };
