@@ -101,7 +101,7 @@ void MainWindow::changeEvent(QEvent *event)
         return;
     }
     // After a language change the toggle offers to end the simulation, whether it runs or not. Operators and
-    // their scripts know it so; the next click still does what the state calls for.
+    // their scripts are used to it; the next click still does what the state calls for.
     d->ui->startStopSimulationButton->setText(QCoreApplication::translate("GUI", "Simulation starten"));
     d->ui->startStopSimulationButton->setText(QCoreApplication::translate("GUI", "Simulation beenden"));
     d->setTexts();
@@ -149,7 +149,7 @@ void MainWindowPrivate::setTitle()
 
 void MainWindowPrivate::fitWindow()
 {
-    ui->verticalLayout->activate(); // the least size that it set before would keep the window from shrinking
+    ui->verticalLayout->activate(); // its former minimum size would keep the window from shrinking
     if (!q->isMaximized() && !q->isFullScreen()) {
         q->resize(q->sizeHint()); // adjustSize() stops at two thirds of the screen
     }

@@ -8,7 +8,7 @@
 
 class MainWindowPrivate;
 
-// The operator's window. It keeps no state of the device: whatever the operator does leaves it as a signal.
+// The operator's window. It keeps no state of the device: what the operator does leaves it as a signal.
 class MainWindow : public QWidget
 {
     Q_OBJECT

@@ -53,7 +53,7 @@ private slots:
 
 private:
     void fillAlarmPicker(const QMap<QString, QString> &entries);
-    void showWholeAlarm(); // of a current entry that is cut, as tool tip
+    void showWholeAlarm(); // as tool tip, where the current entry is cut
     void fillImportancePicker();
     void fillActionPicker();
 

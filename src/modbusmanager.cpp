@@ -104,7 +104,7 @@ void ModbusManager::removeMotorShortcircuitAlarm()
 ModbusManagerPrivate::ModbusManagerPrivate(ModbusManager *manager)
     : QObject(manager), m_slave(new VarnoModbusTcpSlave(this)), q(manager)
 {
-    // Blanks in a signature would cost Qt a normalisation.
+    // Without blanks Qt need not normalise the signature.
     // clang-format off
     connect(m_slave, SIGNAL(holdingRegisterRead(quint16,quint16)),
             this, SLOT(updateIteratorRegister(quint16,quint16)));
@@ -172,8 +172,8 @@ void ModbusManagerPrivate::readSetPoints()
     m_animation->setEndValue(roundedSetPoint(PressureSetHigh));
 }
 
-// A master may have written any bits. What is no number counts as 0, what is beyond the integers as the
-// nearest.
+// A master may have written any bits. What is not a number counts as 0, and what no integer can hold as the
+// nearest that one can.
 int ModbusManagerPrivate::roundedSetPoint(quint16 property) const
 {
     const float setPoint = m_slave->propertyValue(property).toFloat();
@@ -225,7 +225,7 @@ void ModbusManagerPrivate::resetIteratorRegister(quint16 registerNumber, quint16
     }
     m_iteratorIndex = 0;
     m_slave->setHoldingRegister(iteratorRegister, static_cast<int>(m_propertyNumbers.first()));
-    // Critical, so that whoever debugs a master sees each step without turning anything on.
+    // Critical, so that each step shows without turning anything on when a master is debugged.
     qCCritical(lcGui) << "Reset iterator to" << m_propertyNumbers.first();
 }
 

@@ -22,7 +22,7 @@ public:
 public slots:
     // Moves the pressure up and down between the set points, 5 s each way, until stopped.
     void startAnimation();
-    // Leaves the pressure where it is.
+    // Stops the pressure where it is.
     void stopAnimation();
 
     // These take effect when the alarm is raised next.

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 // SPDX-License-Identifier: MIT
 
-// The fixed set of logging categories, by which QT_LOGGING_RULES switches each subsystem on and off. It is
-// shared with other programs of the platform, so some have no user here.
+// The fixed set of logging categories, by which QT_LOGGING_RULES switches each subsystem on and off. The
+// set is shared with other programs of the platform, so some are unused here.
 
 #pragma once
 

@@ -13,13 +13,13 @@
 
 namespace {
 
-// What is logged in one turn of the event loop up to this number is written at once: should the program
-// crash, its last lines are there.
+// This many lines of one turn of the event loop are written at once, so that the last ones are there should
+// the program crash.
 constexpr int linesWrittenAtOnce = 16;
 
 constexpr int maximumPending = 65536;
 
-// The main thread's; the other threads log too little to make a crowd.
+// Of the main thread; the other threads log too little to make a crowd.
 struct Turn
 {
     int lines = 0;

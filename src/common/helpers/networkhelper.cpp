@@ -29,9 +29,8 @@ bool isClosed(const QAbstractSocket *socket)
     return socket->state() == QAbstractSocket::UnconnectedState;
 }
 
-// Sends the data as far as the operating system takes it at once, which is everything in nearly all cases.
-// Only where it takes nothing is there a wait. A peer that closes meanwhile is not a failure, however late it
-// does so.
+// Sends as much of the data as the operating system takes at once, which is nearly always all of it, and
+// waits only where it takes nothing. A peer that closes meanwhile is not a failure, however late it does so.
 bool writeAndWait(QAbstractSocket *socket, const QByteArray &data)
 {
     const qint64 unsent = socket->bytesToWrite() + data.size();

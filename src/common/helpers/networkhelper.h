@@ -19,8 +19,8 @@ class QUdpSocket;
 // Stateless network operations: blocking transfer of one packet, validation of address texts.
 //
 // The socket operations run in the thread that owns the socket and block it for at most 2 seconds. They
-// neither close nor abort the socket and throw nothing: a failure shows in *error (where that pointer is
-// given) and in a log line. The socket stays the caller's.
+// neither close nor abort the socket and throw nothing: a failure is reported in *error, unless that pointer
+// is null, and in a log line. The socket stays the caller's.
 class NetworkHelper
 {
 public:
@@ -51,10 +51,10 @@ public:
     static void widenBacklog(qintptr listeningSocket);
 
     // Makes the server listen on all addresses of this machine, IPv4 and IPv6, with a wide backlog. The port
-    // is then this program's alone: false when another one listens there, be it on one address only.
+    // is then this program's alone: false when another one listens there, even on one address only.
     static bool listen(QTcpServer *server, quint16 port);
 
-    // Rids a listening server of an error. It keeps its port, which the system might not give back while
+    // Clears the error of a listening server. It keeps its port, which the system might not give back while
     // peers are connected.
     static bool listenAgain(QTcpServer *server);
 

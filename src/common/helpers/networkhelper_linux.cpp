@@ -62,8 +62,8 @@ bool NetworkHelper::bindToInterface(QUdpSocket *socket, const InterfaceAddress &
                         QUdpSocket::ShareAddress | QUdpSocket::ReuseAddressHint);
 }
 
-// Sockets are tied to the interface and not to its address. They stay deaf after it was taken out of the
-// machine, even when it comes back by the same name; it then has another index.
+// Sockets are tied to the interface and not to its address. Once it was taken out of the machine they hear
+// nothing more, even when it comes back under the same name; it then has another index.
 qint64 NetworkHelper::generation(const QNetworkInterface &candidate, const QHostAddress & /*address*/)
 {
     return candidate.index();

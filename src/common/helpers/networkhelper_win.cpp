@@ -38,7 +38,8 @@ SOCKET duplicate(qintptr descriptor)
 SOCKET exclusiveListener(quint16 port)
 {
     constexpr auto exclusively = QAbstractSocket::DontShareAddress;
-    // Nobody promises that binding IPv6 and IPv4 at once finds those who have the port on IPv4 only.
+    // Binding IPv6 and IPv4 at once is not guaranteed to fail where another program has the port on IPv4
+    // only.
     const bool isFree = QTcpSocket().bind(QHostAddress::AnyIPv4, port, exclusively);
     QTcpSocket socket;
     if (!isFree || !socket.bind(QHostAddress::Any, port, exclusively)
@@ -67,7 +68,7 @@ bool NetworkHelper::listen(QTcpServer *server, quint16 port)
 
 bool NetworkHelper::listenAgain(QTcpServer *server)
 {
-    // Not bound anew: the system grants no port exclusively on which connections are still open.
+    // Not bound again: the system grants no port exclusively while connections on it are still open.
     const SOCKET listener = duplicate(server->socketDescriptor());
     server->close();
     return handOver(listener, server);

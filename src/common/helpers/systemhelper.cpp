@@ -28,7 +28,7 @@
 
 namespace {
 
-// The program's own have 36 characters. Whoever puts another one there may take more, but not all memory.
+// The program's own have 36 characters. An identity put there by hand may be longer, but not take all memory.
 constexpr qint64 maximumIdentifierSize = 65536;
 
 struct ProcessIdentity
@@ -47,7 +47,7 @@ QString newIdentifier()
 void writeNewIdentifier(const QString &path)
 {
     QSaveFile cache(path);
-    // A full disk shows up in flush() only, which commit() would not mind.
+    // A full disk shows in flush() only, and commit() ignores that.
     if (!cache.open(QIODevice::WriteOnly) || cache.write(newIdentifier().toUtf8()) == -1 || !cache.flush()
         || !cache.commit()) {
         qCWarning(lcModbus) << "Could not write uuid to cache:" << cache.errorString();
@@ -59,7 +59,7 @@ QString openToRead(QFile &cache)
 {
     const QFileInfo info(cache);
     if (info.exists() && !info.isFile() && !info.isDir()) {
-        return QStringLiteral("No regular file"); // a FIFO waits for its writer, a device need not end
+        return QStringLiteral("No regular file"); // a FIFO waits for its writer, a device may never end
     }
     return cache.open(QIODevice::ReadOnly) ? QString() : cache.errorString();
 }
@@ -192,8 +192,8 @@ int SystemHelper::maximumDescriptors()
 
 int SystemHelper::channelDescriptors()
 {
-    // Senders write as soon as they are connected, so that only those of one moment are here at a time: 256
-    // are more than a script starts at once. Where descriptors are few, most are for the Modbus masters.
+    // Senders write as soon as they are connected and then leave, so 256 at a time are more than any script
+    // starts. Where descriptors are few, most are for the Modbus masters.
     return std::min(256, maximumDescriptors() / 4);
 }
 

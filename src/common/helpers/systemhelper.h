@@ -19,7 +19,7 @@ public:
     // to standard output:
     //   %PROGRAMDATA%/Pelmora/Ravel Monitor Orbis Simulator[/%TP_PD%]
     // with "C:/ProgramData" where PROGRAMDATA is empty. Needs no application object.
-    // Throws std::runtime_error when the directory cannot be made.
+    // Throws std::runtime_error when the directory cannot be created.
     static void initializeConfigurationPath();
 
     // Absolute path of the configuration directory; empty, with a warning, before
@@ -41,7 +41,7 @@ public:
     // CLIENTNAME and COMPUTERNAME. Without a user name there is no "@" either.
     static QString userAndComputerName();
 
-    // Lets the process open as many descriptors as the system allows it at all.
+    // Raises the number of descriptors that the process may open to the most that the system allows.
     static void raiseDescriptorLimit();
 
     // How many descriptors the process may open, sockets included.

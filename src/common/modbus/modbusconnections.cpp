@@ -64,7 +64,7 @@ void ModbusConnections::incomingConnection(qintptr descriptor)
         delete master;
         return;
     }
-    // A master whose cable is pulled says no goodbye; the system finds out in about two hours.
+    // A master whose cable is pulled never closes its connection; the system finds out in about two hours.
     master->setSocketOption(QAbstractSocket::KeepAliveOption, 1);
     master->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     qCDebug(lcModbus) << "Modbus master" << master->peerAddress().toString() << "connected.";
@@ -106,8 +106,8 @@ void ModbusConnections::acceptFurther()
     }
 }
 
-// A server that the system refuses its first connection, for want of descriptors perhaps, accepts no other,
-// and resuming does not help: it keeps the error until it listens anew.
+// Once the system has refused a server's first connection, perhaps because descriptors ran out, the server
+// accepts no other, and resuming does not help: it keeps the error until it listens again.
 void ModbusConnections::scheduleRestart()
 {
     qCWarning(lcModbus) << "Could not accept a Modbus master:" << errorString();
@@ -166,7 +166,7 @@ bool ModbusConnections::isWaiting(const QAbstractSocket *master) const
                        [master](const LongRequest &request) { return request.master == master; });
 }
 
-// However many wait, all others have half of the time.
+// However many are queued, other masters get half of the time.
 void ModbusConnections::handOverLongRequest()
 {
     if (m_longRequests.isEmpty()) {

@@ -100,7 +100,7 @@ void ModbusTcpSlavePrivate::init(ModbusTcpSlave *slave)
     q = slave;
     setParent(slave);
     m_connections = new ModbusConnections(isLongRead, this);
-    // Blanks in a signature would cost Qt a normalisation.
+    // Without blanks Qt need not normalise the signature.
     // clang-format off
     connect(m_connections, SIGNAL(requestReceived(QAbstractSocket*,QByteArray)),
             this, SLOT(processRequest(QAbstractSocket*,QByteArray)));

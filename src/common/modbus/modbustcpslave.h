@@ -11,8 +11,8 @@ class ModbusTcpSlavePrivate;
 // Modbus TCP server ("slave") over a map of 16-bit holding registers.
 //
 // Serves Read Holding Registers (3) and Write Multiple Registers (16) to any number of masters. One read from
-// a connection is one request frame: frames are neither put together nor split, so a master sends its next
-// request after the answer to the last. Nothing is ever answered with a Modbus exception: a register that was
+// a connection is one request frame: frames are not reassembled, so a master sends its next request after the
+// answer to the last. Nothing is ever answered with a Modbus exception: a register that was
 // never set reads as 0, and a malformed request gets no answer at all.
 //
 // Registers hold variants. Whatever a master writes becomes an int of 0..65535; of a number set from the

@@ -11,7 +11,7 @@
 // Watches any number of connected sockets at the price of one, each as often as any other.
 //
 // Qt's event loop passes all its sockets to the kernel each time it waits, so a thousand masters that are
-// merely connected make the one that asks wait ten times as long. On Linux the sockets added here are kept in
+// only connected make the one that asks wait ten times as long. On Linux the sockets added here are kept in
 // one epoll descriptor, and Qt's loop sees only that. On other platforms, and where the system has no epoll
 // descriptor left, they stay with Qt's loop.
 //
