@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 // SPDX-License-Identifier: MIT
 
-// Start-up. The order of the steps matters: the configuration directory needs the application's name and must
-// be known before the application object exists, and a second instance ends before it opens anything.
+// Start-up. The order of the steps matters: process, names and configuration directory are settled before the
+// application object exists, and a second instance ends before it opens anything.
 
 #include "common/helpers/loggingcategories.h"
 #include "common/helpers/logwriter.h"
@@ -13,22 +13,13 @@
 #include "common/other/urllistenerpeer.h"
 #include "mainwindow.h"
 #include "modbusmanager.h"
+#include "startup.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QTimer>
 #include <QUrl>
-
-#ifdef Q_OS_WIN
-#include <qt_windows.h>
-#else
-#include <QSocketNotifier>
-#include <atomic>
-#include <csignal>
-#include <sys/eventfd.h>
-#include <unistd.h>
-#endif
 
 namespace {
 
@@ -55,88 +46,36 @@ T *livesUntilExit()
     return q_check_ptr(new T(nullptr));
 }
 
-#ifdef Q_OS_WIN
-// A click into a console selects its text, and whoever writes to the console then waits until the selection
-// is gone: the next log line would stop the device. A console that was opened for this program alone selects
-// nothing on a click; a shell's is left as it is.
-void disableSelectionByClick()
+void nameApplication()
 {
-    const HANDLE input = GetStdHandle(STD_INPUT_HANDLE);
-    DWORD process = 0;
-    DWORD mode = 0;
-    if (GetConsoleProcessList(&process, 1) == 1 && GetConsoleMode(input, &mode)) {
-        SetConsoleMode(input, (mode | ENABLE_EXTENDED_FLAGS) & ~DWORD(ENABLE_QUICK_EDIT_MODE));
-    }
+    QCoreApplication::setOrganizationName(QStringLiteral("Pelmora"));
+    QCoreApplication::setApplicationName(QStringLiteral("Ravel Monitor Orbis Simulator"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(SIMULATOR_VERSION));
 }
 
-// Lets the console show escape sequences in log lines, gets it out of the way, and allows any process to
-// bring its window to the front. None of this is worth stopping for when it fails.
-void prepareConsole()
+void scaleForDisplay()
 {
-    disableSelectionByClick();
-    const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
-    DWORD mode = 0;
-    if (output != INVALID_HANDLE_VALUE && GetConsoleMode(output, &mode)) {
-        SetConsoleMode(output, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
-    }
-    ShowWindow(GetConsoleWindow(), SW_MINIMIZE);
-    AllowSetForegroundWindow(ASFW_ANY);
-}
-#else
-// Qt's own event loop answers about a fifth more requests than GLib's. To be called before the application
-// object chooses; QT_NO_GLIB= in the environment keeps GLib's.
-void preferQtEventLoop()
-{
-    if (!qEnvironmentVariableIsSet("QT_NO_GLIB")) {
-        qputenv("QT_NO_GLIB", "1");
-    }
+    QGuiApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
 
-int terminationEvent = -1;
-
-// The first request ends the event loop. Where that is stuck, in a write to a log that nobody reads, a second
-// one ends the process by itself: on its way here a signal gets its default effect back. May interrupt any
-// thread anywhere.
-void requestTermination(int number)
+void createChannel()
 {
-    static std::atomic_flag isRequested = ATOMIC_FLAG_INIT;
-    if (isRequested.test_and_set()) { // by the other signal
-        (void)std::raise(number);
-        return;
-    }
-    const quint64 one = 1;
-    [[maybe_unused]] const auto written = write(terminationEvent, &one, sizeof one);
+    q_check_ptr(new UrlListenerPeer(QCoreApplication::instance(), applicationKey()));
 }
-
-// To be called right before the event loop runs: until then nobody would act on a request, so that it has to
-// end the process by itself. What whoever started the program had it ignore stays ignored.
-void leaveTerminationToEventLoop()
-{
-    terminationEvent = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-    if (terminationEvent < 0) {
-        return;
-    }
-    auto *notifier = new QSocketNotifier(terminationEvent, QSocketNotifier::Read, qApp);
-    QObject::connect(notifier, &QSocketNotifier::activated, qApp, &QCoreApplication::quit);
-
-    struct sigaction action = {};
-    action.sa_handler = requestTermination;
-    // Restarted, the log line that it interrupts is not lost.
-    action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
-    for (const int number : {SIGTERM, SIGINT}) {
-        struct sigaction previous = {};
-        sigaction(number, nullptr, &previous);
-        if (previous.sa_handler != SIG_IGN) {
-            sigaction(number, &action, nullptr);
-        }
-    }
-}
-#endif
 
 bool isSecondInstance()
 {
     qCInfo(lcCore) << "Checking for previous instance...";
     return UrlListenerPeer::instance(applicationKey())->sendUrl(QUrl());
+}
+
+// The event loop is never entered here, so this quit is for an event loop that somebody else may run while
+// the application object goes down.
+void endSecondInstance()
+{
+    qCInfo(lcNotifier) << "Second instance detected! Shutting down!";
+    QTimer::singleShot(0, qApp, SLOT(quit()));
 }
 
 Options readCommandLine()
@@ -156,6 +95,12 @@ Options readCommandLine()
 
     SystemHelper::setSerialNumberOverride(parser.value(serialNumber));
     return {parser.isSet(factoryTechnician), parser.value(language)};
+}
+
+void registerTypes()
+{
+    qRegisterMetaType<OrvetInformation>("OrvetInformation");
+    qRegisterMetaType<OrvetPeer::OrvetError>("OrvetPeer::OrvetError");
 }
 
 void loadSettings()
@@ -221,28 +166,16 @@ void reserveShortcut(MainWindow *window)
 
 int main(int argc, char *argv[])
 {
-#ifdef Q_OS_WIN
-    prepareConsole();
-#else
-    (void)std::signal(SIGPIPE, SIG_IGN); // whoever reads the log may leave
-    preferQtEventLoop();
-    SystemHelper::raiseDescriptorLimit();
-#endif
-    QCoreApplication::setOrganizationName(QStringLiteral("Pelmora"));
-    QCoreApplication::setApplicationName(QStringLiteral("Ravel Monitor Orbis Simulator"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(SIMULATOR_VERSION));
+    Startup::prepareProcess();
+    nameApplication();
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     SystemHelper::initializeConfigurationPath();
 
-    QGuiApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    scaleForDisplay();
     QApplication application(argc, argv);
-    q_check_ptr(new UrlListenerPeer(QCoreApplication::instance(), applicationKey()));
+    createChannel();
     if (isSecondInstance()) {
-        qCInfo(lcNotifier) << "Second instance detected! Shutting down!";
-        // The event loop is never entered here, so this quit is for an event loop that somebody else may run
-        // while the application object goes down.
-        QTimer::singleShot(0, qApp, SLOT(quit()));
+        endSecondInstance();
         return 0;
     }
     qInfo() << "This is the first instance";
@@ -252,8 +185,7 @@ int main(int argc, char *argv[])
     // Not before the application object exists: with this file's plugin path it would find no platform
     // plugin.
     Q_INIT_RESOURCE(qtconfiguration);
-    qRegisterMetaType<OrvetInformation>("OrvetInformation");
-    qRegisterMetaType<OrvetPeer::OrvetError>("OrvetPeer::OrvetError");
+    registerTypes();
     loadSettings();
     installLanguage(options.language);
     announceDevice();
@@ -268,8 +200,6 @@ int main(int argc, char *argv[])
     window->setSerialNumber(SystemHelper::getIdentifier());
     window->show();
     LogWriter::install();
-#ifndef Q_OS_WIN
-    leaveTerminationToEventLoop();
-#endif
+    Startup::leaveTerminationToEventLoop();
     return QApplication::exec();
 }
