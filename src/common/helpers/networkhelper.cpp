@@ -9,10 +9,6 @@
 #include <QNetworkInterface>
 #include <QTextStream>
 
-#ifdef Q_OS_LINUX
-#include <sys/socket.h>
-#endif
-
 namespace {
 
 constexpr int transferTimeoutMs = 2000;
@@ -81,15 +77,6 @@ QByteArray NetworkHelper::receivePacket(QAbstractSocket *socket, bool *error)
     qCDebug(lcNetworkHelper) << toHexString(data);
     report(error, false);
     return data;
-}
-
-void NetworkHelper::widenBacklog(qintptr listeningSocket)
-{
-#ifdef Q_OS_LINUX
-    ::listen(static_cast<int>(listeningSocket), SOMAXCONN);
-#else
-    Q_UNUSED(listeningSocket) // fixed elsewhere once the server listens
-#endif
 }
 
 bool NetworkHelper::isValidMacAddress(const QString &address)

@@ -38,6 +38,11 @@ bool tieToInterface(QUdpSocket *socket, const QString &interfaceName)
 
 } // namespace
 
+void NetworkHelper::widenBacklog(qintptr listeningSocket)
+{
+    ::listen(static_cast<int>(listeningSocket), SOMAXCONN);
+}
+
 bool NetworkHelper::listen(QTcpServer *server, quint16 port)
 {
     const bool listens = server->listen(QHostAddress::Any, port);

@@ -61,6 +61,11 @@ bool handOver(SOCKET listener, QTcpServer *server)
 
 } // namespace
 
+void NetworkHelper::widenBacklog(qintptr /*listeningSocket*/)
+{
+    // Windows fixes it when a socket begins to listen.
+}
+
 bool NetworkHelper::listen(QTcpServer *server, quint16 port)
 {
     return handOver(exclusiveListener(port), server);

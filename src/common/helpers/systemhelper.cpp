@@ -13,18 +13,7 @@
 
 #include <algorithm>
 #include <iostream>
-#include <limits>
 #include <stdexcept>
-
-#ifdef Q_OS_WIN
-#include <QSettings>
-#include <qt_windows.h>
-#include <shlobj.h>
-#else
-#include <QSysInfo>
-#include <sys/resource.h>
-#include <unistd.h>
-#endif
 
 namespace {
 
@@ -62,24 +51,6 @@ QString openToRead(QFile &cache)
         return QStringLiteral("No regular file"); // a FIFO waits for its writer, a device may never end
     }
     return cache.open(QIODevice::ReadOnly) ? QString() : cache.errorString();
-}
-
-#ifdef Q_OS_WIN
-QString readMachineGuid(QSettings::Format view)
-{
-    const QSettings registry(QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Cryptography"), view);
-    return registry.value(QStringLiteral("MachineGuid")).toString();
-}
-#endif
-
-QString rawMachineId()
-{
-#ifdef Q_OS_WIN
-    const QString guid = readMachineGuid(QSettings::NativeFormat);
-    return guid.isEmpty() ? readMachineGuid(QSettings::Registry64Format) : guid;
-#else
-    return QString::fromLatin1(QSysInfo::machineUniqueId());
-#endif
 }
 
 } // namespace
@@ -167,41 +138,9 @@ QString SystemHelper::userAndComputerName()
     return name + computer;
 }
 
-void SystemHelper::raiseDescriptorLimit()
-{
-#ifndef Q_OS_WIN
-    rlimit limit{};
-    if (getrlimit(RLIMIT_NOFILE, &limit) == 0) {
-        limit.rlim_cur = limit.rlim_max;
-        setrlimit(RLIMIT_NOFILE, &limit);
-    }
-#endif
-}
-
-int SystemHelper::maximumDescriptors()
-{
-    constexpr int unlimited = std::numeric_limits<int>::max();
-#ifndef Q_OS_WIN
-    rlimit limit{};
-    if (getrlimit(RLIMIT_NOFILE, &limit) == 0) {
-        return static_cast<int>(std::min<rlim_t>(limit.rlim_cur, unlimited));
-    }
-#endif
-    return unlimited;
-}
-
 int SystemHelper::channelDescriptors()
 {
     // Senders write as soon as they are connected and then leave, so 256 at a time are more than any script
     // starts. Where descriptors are few, most are for the Modbus masters.
     return std::min(256, maximumDescriptors() / 4);
-}
-
-bool SystemHelper::isUserAdmin()
-{
-#ifdef Q_OS_WIN
-    return IsUserAnAdmin();
-#else
-    return geteuid() == 0;
-#endif
 }

@@ -52,4 +52,7 @@ public:
 
     // Whether the process has administrator rights.
     static bool isUserAdmin();
+
+private:
+    static QString rawMachineId(); // as the system writes it
 };

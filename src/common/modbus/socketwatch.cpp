@@ -5,42 +5,10 @@
 
 #include <QTimer>
 
-#ifdef Q_OS_WIN
-#include <winsock2.h>
-#else
-#include <poll.h>
-#endif
-
-#ifdef Q_OS_LINUX
-#include <QAbstractEventDispatcher>
-#include <QSocketNotifier>
-
-#include <sys/epoll.h>
-#include <unistd.h>
-
-#include <array>
-#endif
-
 namespace {
 
 constexpr int lookAgainMs = 1;
-constexpr int roomRetryMs = 20;
-
-#ifdef Q_OS_LINUX
-// A turn of the event loop serves no more sockets than this, so that the window and new masters get theirs.
-constexpr int socketsPerTurn = 64;
-#endif
-
-bool hasRoomForAnswer(const QAbstractSocket &socket)
-{
-#ifdef Q_OS_WIN
-    WSAPOLLFD question = {static_cast<SOCKET>(socket.socketDescriptor()), POLLOUT, 0};
-    return WSAPoll(&question, 1, 0) != 0;
-#else
-    pollfd question = {static_cast<int>(socket.socketDescriptor()), POLLOUT, 0};
-    return ::poll(&question, 1, 0) != 0;
-#endif
-}
+constexpr int roomRetryMs = 20; // the system may take much longer to empty a full send buffer
 
 } // namespace
 
@@ -54,103 +22,12 @@ void SocketWatch::announce(QAbstractSocket *socket)
     }
 }
 
-#ifdef Q_OS_LINUX
-
-SocketWatch::SocketWatch(QObject *parent) : QObject(parent), m_epoll(epoll_create1(EPOLL_CLOEXEC))
-{
-    if (m_epoll >= 0) {
-        auto *notifier = new QSocketNotifier(m_epoll, QSocketNotifier::Read, this);
-        connect(notifier, &QSocketNotifier::activated, this, [this] { deliver(); });
-    }
-}
-
-SocketWatch::~SocketWatch()
-{
-    if (m_epoll >= 0) {
-        close(m_epoll);
-    }
-}
-
-void SocketWatch::add(QAbstractSocket *socket)
-{
-    const auto descriptor = static_cast<int>(socket->socketDescriptor());
-    if (!control(EPOLL_CTL_ADD, descriptor)) {
-        connect(socket, &QAbstractSocket::readyRead, this, [this, socket] { announce(socket); });
-        return;
-    }
-    m_sockets.insert(descriptor, socket);
-    // The socket keeps its notifier, enabled, so it has no reason to touch it; Qt's loop no longer knows it.
-    const auto notifiers = socket->findChildren<QSocketNotifier *>();
-    for (QSocketNotifier *notifier : notifiers) {
-        if (notifier->type() == QSocketNotifier::Read) {
-            QAbstractEventDispatcher::instance()->unregisterSocketNotifier(notifier);
-        }
-    }
-}
-
-void SocketWatch::lookAgain(QAbstractSocket *socket)
-{
-    if (!control(EPOLL_CTL_MOD, static_cast<int>(socket->socketDescriptor()))) {
-        QTimer::singleShot(lookAgainMs, socket, [this, socket] { announce(socket); });
-    }
-}
-
-// Edge-triggered: a socket whose data is left alone for a while is not reported again and again. The system
-// reports both directions whenever one of them changes, and when it is told the same once more.
-bool SocketWatch::control(int operation, int descriptor) const
-{
-    epoll_event event = {};
-    event.events = EPOLLIN | EPOLLOUT | EPOLLRDHUP | EPOLLET;
-    event.data.fd = descriptor;
-    return epoll_ctl(m_epoll, operation, descriptor, &event) == 0;
-}
-
-void SocketWatch::deliver()
-{
-    std::array<epoll_event, socketsPerTurn> events = {};
-    const int count = epoll_wait(m_epoll, events.data(), socketsPerTurn, 0);
-    for (int i = 0; i < count; ++i) {
-        const epoll_event &event = events.at(static_cast<std::size_t>(i));
-        deliver(event.data.fd, event.events);
-        // One read may have taken the last request, another takes the end of the connection.
-        if ((event.events & EPOLLRDHUP) != 0) {
-            deliver(event.data.fd, event.events);
-        }
-    }
-}
-
-// By descriptor, as a socket may go while others of its turn are served.
-void SocketWatch::deliver(int descriptor, quint32 events)
-{
-    constexpr quint32 request = EPOLLIN | EPOLLOUT;
-    constexpr quint32 failure = EPOLLERR | EPOLLHUP;
-    QAbstractSocket *socket = m_sockets.value(descriptor);
-    if (!socket) {
-        return;
-    }
-    if ((events & request) == request || (events & failure) != 0) {
-        emit ready(socket);
-    } else if ((events & EPOLLIN) != 0) {
-        emit held(socket);
-    }
-}
-
-#else
-
-SocketWatch::SocketWatch(QObject *parent) : QObject(parent)
-{
-}
-
-SocketWatch::~SocketWatch() = default;
-
-void SocketWatch::add(QAbstractSocket *socket)
+void SocketWatch::leaveToEventLoop(QAbstractSocket *socket)
 {
     connect(socket, &QAbstractSocket::readyRead, this, [this, socket] { announce(socket); });
 }
 
-void SocketWatch::lookAgain(QAbstractSocket *socket)
+void SocketWatch::announceLater(QAbstractSocket *socket)
 {
     QTimer::singleShot(lookAgainMs, socket, [this, socket] { announce(socket); });
 }
-
-#endif

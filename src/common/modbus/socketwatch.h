@@ -39,7 +39,10 @@ signals:
     void ready(QAbstractSocket *socket);
 
 private:
+    static bool hasRoomForAnswer(const QAbstractSocket &socket);
     void announce(QAbstractSocket *socket);
+    void announceLater(QAbstractSocket *socket);
+    void leaveToEventLoop(QAbstractSocket *socket);
 #ifdef Q_OS_LINUX
     bool control(int operation, int descriptor) const;
     void deliver();
