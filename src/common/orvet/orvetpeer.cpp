@@ -42,8 +42,10 @@ OrvetPeer::OrvetPeer(QObject *parent) : QObject(parent), d(new OrvetPeerPrivate(
 QString OrvetPeer::value(const QString &key) const
 {
     QString text;
-    QMetaObject::invokeMethod(d->worker(), "value", Qt::BlockingQueuedConnection, Q_RETURN_ARG(QString, text),
-                              Q_ARG(QString, key));
+    [[maybe_unused]] const bool isAnswered =
+        QMetaObject::invokeMethod(d->worker(), "value", Qt::BlockingQueuedConnection,
+                                  Q_RETURN_ARG(QString, text), Q_ARG(QString, key));
+    Q_ASSERT(isAnswered);
     return text;
 }
 

@@ -28,7 +28,9 @@ public:
     template <typename... Arguments>
     void queue(const char *slot, Arguments... arguments)
     {
-        QMetaObject::invokeMethod(m_worker, slot, Qt::QueuedConnection, arguments...);
+        [[maybe_unused]] const bool isQueued =
+            QMetaObject::invokeMethod(m_worker, slot, Qt::QueuedConnection, arguments...);
+        Q_ASSERT_X(isQueued, slot, "no such slot");
     }
 
 private slots:
