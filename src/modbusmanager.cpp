@@ -58,7 +58,8 @@ constexpr int followUpSignature = 0x4102001A; // "Motor emergency operation."
 
 } // namespace
 
-ModbusManager::ModbusManager(QObject *parent) : QObject(parent), d(new ModbusManagerPrivate(this))
+ModbusManager::ModbusManager(QObject *parent)
+    : QObject(parent), d(q_check_ptr(new ModbusManagerPrivate(this)))
 {
 }
 
@@ -102,7 +103,7 @@ void ModbusManager::removeMotorShortcircuitAlarm()
 }
 
 ModbusManagerPrivate::ModbusManagerPrivate(ModbusManager *manager)
-    : QObject(manager), m_slave(new VarnoModbusTcpSlave(this)), q(manager)
+    : QObject(manager), m_slave(q_check_ptr(new VarnoModbusTcpSlave(this))), q(manager)
 {
     // Without blanks Qt need not normalise the signature.
     // clang-format off
@@ -154,7 +155,7 @@ void ModbusManagerPrivate::declareProperties()
 
 void ModbusManagerPrivate::createAnimation()
 {
-    m_wrapper = new PropertyAnimationWrapper(this);
+    m_wrapper = q_check_ptr(new PropertyAnimationWrapper(this));
     m_wrapper->setPropertyNumber(Pressure);
     m_wrapper->setSlave(m_slave);
 

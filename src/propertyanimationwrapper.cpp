@@ -20,7 +20,7 @@ public:
 };
 
 PropertyAnimationWrapper::PropertyAnimationWrapper(QObject *parent)
-    : QObject(parent), d(new PropertyAnimationWrapperPrivate(this))
+    : QObject(parent), d(q_check_ptr(new PropertyAnimationWrapperPrivate(this)))
 {
 }
 

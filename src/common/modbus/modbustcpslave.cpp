@@ -50,7 +50,8 @@ bool isLongRead(const QByteArray &bytes)
 
 } // namespace
 
-ModbusTcpSlave::ModbusTcpSlave(QObject *parent) : ModbusTcpSlave(new ModbusTcpSlavePrivate, parent)
+ModbusTcpSlave::ModbusTcpSlave(QObject *parent)
+    : ModbusTcpSlave(q_check_ptr(new ModbusTcpSlavePrivate), parent)
 {
 }
 

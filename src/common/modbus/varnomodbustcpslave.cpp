@@ -45,7 +45,7 @@ float floatFromBits(quint32 bits)
 } // namespace
 
 VarnoModbusTcpSlave::VarnoModbusTcpSlave(QObject *parent)
-    : ModbusTcpSlave(new VarnoModbusTcpSlavePrivate, parent)
+    : ModbusTcpSlave(q_check_ptr(new VarnoModbusTcpSlavePrivate), parent)
 {
 }
 

@@ -8,7 +8,8 @@
 #include <QThread>
 
 OrvetPeerPrivate::OrvetPeerPrivate(OrvetPeer *q)
-    : QObject(q), m_worker(new OrvetPeerWorker(&m_undeliveredReports)), m_thread(new QThread(this))
+    : QObject(q), m_worker(q_check_ptr(new OrvetPeerWorker(&m_undeliveredReports))),
+      m_thread(new QThread(this))
 {
     m_thread->setObjectName(QStringLiteral("Orvet"));
     m_worker->moveToThread(m_thread);
@@ -35,16 +36,15 @@ void OrvetPeerPrivate::countDelivery()
     m_undeliveredReports.deref();
 }
 
-OrvetPeer::OrvetPeer(QObject *parent) : QObject(parent), d(new OrvetPeerPrivate(this))
+OrvetPeer::OrvetPeer(QObject *parent) : QObject(parent), d(q_check_ptr(new OrvetPeerPrivate(this)))
 {
 }
 
 QString OrvetPeer::value(const QString &key) const
 {
     QString text;
-    [[maybe_unused]] const bool isAnswered =
-        QMetaObject::invokeMethod(d->worker(), "value", Qt::BlockingQueuedConnection,
-                                  Q_RETURN_ARG(QString, text), Q_ARG(QString, key));
+    [[maybe_unused]] const bool isAnswered = QMetaObject::invokeMethod(
+        d->worker(), "value", Qt::BlockingQueuedConnection, Q_RETURN_ARG(QString, text), Q_ARG(QString, key));
     Q_ASSERT(isAnswered);
     return text;
 }
