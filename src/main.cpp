@@ -4,6 +4,7 @@
 // Start-up. The order of the steps matters: process, names and configuration directory are settled before the
 // application object exists, and a second instance ends before it opens anything.
 
+#include "common/helpers/deviceidentity.h"
 #include "common/helpers/loggingcategories.h"
 #include "common/helpers/logwriter.h"
 #include "common/helpers/systemhelper.h"
@@ -32,12 +33,6 @@ struct Options
     QString language; // empty for the stored one
 };
 
-// Name of the single-instance channel and of the directory with the translations.
-QString applicationKey()
-{
-    return QStringLiteral("RavelMonitorOrbisSimulator");
-}
-
 // What start-up creates this way is never deleted: tearing the device down piece by piece at the end of the
 // process would only show its clients states that no real device has.
 template <typename T>
@@ -48,8 +43,8 @@ T *livesUntilExit()
 
 void nameApplication()
 {
-    QCoreApplication::setOrganizationName(QStringLiteral("Pelmora"));
-    QCoreApplication::setApplicationName(QStringLiteral("Ravel Monitor Orbis Simulator"));
+    QCoreApplication::setOrganizationName(DeviceIdentity::organization);
+    QCoreApplication::setApplicationName(DeviceIdentity::application);
     QCoreApplication::setApplicationVersion(QStringLiteral(SIMULATOR_VERSION));
 }
 
@@ -61,13 +56,13 @@ void scaleForDisplay()
 
 void createChannel()
 {
-    q_check_ptr(new UrlListenerPeer(QCoreApplication::instance(), applicationKey()));
+    q_check_ptr(new UrlListenerPeer(QCoreApplication::instance(), DeviceIdentity::applicationKey));
 }
 
 bool isSecondInstance()
 {
     qCInfo(lcCore) << "Checking for previous instance...";
-    return UrlListenerPeer::instance(applicationKey())->sendUrl(QUrl());
+    return UrlListenerPeer::instance(DeviceIdentity::applicationKey)->sendUrl(QUrl());
 }
 
 // The event loop is never entered here, so this quit is for an event loop that somebody else may run while
@@ -106,8 +101,8 @@ void registerTypes()
 void loadSettings()
 {
     auto *storage = livesUntilExit<UnifiedStorage>();
-    storage->loadSnapshot(
-        SystemHelper::configurationPath() + QStringLiteral("/Ravel Monitor Orbis Simulator.json"), false);
+    const QString directory = SystemHelper::configurationPath();
+    storage->loadSnapshot(QStringLiteral("%1/%2.json").arg(directory, DeviceIdentity::application), false);
 }
 
 // A language from the command line is taken as it is; without one the stored language counts.
@@ -120,7 +115,7 @@ void installLanguage(const QString &requested)
                        .toString();
     }
     const QString directory = LanguageManager::findTranslations(QCoreApplication::applicationDirPath());
-    const QStringList searchList(QStringLiteral("%1/%2").arg(directory, applicationKey()));
+    const QStringList searchList(QStringLiteral("%1/%2").arg(directory, DeviceIdentity::applicationKey));
     auto *manager = q_check_ptr(new LanguageManager(searchList, QCoreApplication::instance()));
     manager->setLanguage(language);
 }
@@ -131,11 +126,13 @@ void announceDevice()
 {
     auto *peer = livesUntilExit<OrvetPeer>();
     peer->setHostEnabled(true);
-    peer->setOrvetName(QStringLiteral("Duo Orbis 7316-20 %1").arg(SystemHelper::getIdentifier()));
+    peer->setOrvetName(
+        QStringLiteral("%1 %2 %3")
+            .arg(DeviceIdentity::deviceName, DeviceIdentity::articleNumber, SystemHelper::getIdentifier()));
     peer->setOrvetDescription(QStringLiteral("Orbis Simulator"));
-    peer->setValue(QStringLiteral("devicetype"), QStringLiteral("21123642"));
-    peer->setValue(QStringLiteral("REF"), QStringLiteral("7316-20"));
-    peer->setValue(QStringLiteral("REF_Name"), QStringLiteral("Duo Orbis"));
+    peer->setValue(QStringLiteral("devicetype"), DeviceIdentity::deviceType);
+    peer->setValue(QStringLiteral("REF"), DeviceIdentity::articleNumber);
+    peer->setValue(QStringLiteral("REF_Name"), DeviceIdentity::deviceName);
     peer->setValue(QStringLiteral("PCB_SN"), SystemHelper::getIdentifier());
     peer->start(orvetRequestPort, orvetResponsePort);
 }
@@ -149,8 +146,8 @@ void connectParts(MainWindow *window, ModbusManager *engine)
     QObject::connect(window, SIGNAL(alarmImportanceChanged(int)), engine, SLOT(setAlarmImportance(int)));
     QObject::connect(window, SIGNAL(alarmActionChanged(int)), engine, SLOT(setAlarmAction(int)));
     QObject::connect(window, SIGNAL(removeAlarmRequested()), engine, SLOT(removeMotorShortcircuitAlarm()));
-    QObject::connect(UrlListenerPeer::instance(applicationKey()), SIGNAL(urlReceived(QUrl)), window,
-                     SLOT(onUrlReceived(QUrl)));
+    QObject::connect(UrlListenerPeer::instance(DeviceIdentity::applicationKey), SIGNAL(urlReceived(QUrl)),
+                     window, SLOT(onUrlReceived(QUrl)));
 }
 
 // Nothing is connected to F12 and nothing is to be: the shortcut is only kept from reaching anybody else.
@@ -179,7 +176,7 @@ int main(int argc, char *argv[])
         return 0;
     }
     qInfo() << "This is the first instance";
-    UrlListenerPeer::instance(applicationKey())->startServer();
+    UrlListenerPeer::instance(DeviceIdentity::applicationKey)->startServer();
 
     const Options options = readCommandLine();
     // Not before the application object exists: with this file's plugin path it would find no platform

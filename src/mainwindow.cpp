@@ -3,6 +3,7 @@
 
 #include "mainwindow.h"
 
+#include "alarm.h"
 #include "common/helpers/loggingcategories.h"
 #include "common/i18n/languagemanager.h"
 #include "mainwindow_p.h"
@@ -17,11 +18,6 @@
 #include <QTextDocument>
 
 namespace {
-
-// The alarm in force while the operator cannot choose one: "Motor too hot.", an error, to be confirmed.
-constexpr int defaultAlarmId = 0x31020011;
-constexpr int defaultAlarmImportance = 3;
-constexpr int defaultAlarmAction = 1;
 
 constexpr int factoryTechnicianAccess = 4;
 
@@ -69,9 +65,9 @@ void MainWindow::setAlarmSelectionEnabled(bool enabled)
     if (enabled) {
         d->loadAlarms();
     } else {
-        emit alarmIdChanged(defaultAlarmId);
-        emit alarmImportanceChanged(defaultAlarmImportance);
-        emit alarmActionChanged(defaultAlarmAction);
+        emit alarmIdChanged(defaultAlarm.signature);
+        emit alarmImportanceChanged(defaultAlarm.importance);
+        emit alarmActionChanged(defaultAlarm.action);
     }
     d->fitWindow();
 }
@@ -274,17 +270,17 @@ void MainWindowPrivate::fillImportancePicker()
 {
     // The names of the syslog severities are the same in every language.
     ui->alarmImportance->clear();
-    addItem(ui->alarmImportance, QStringLiteral("OK"), 0);
-    addItem(ui->alarmImportance, QStringLiteral("ERR"), 3);
-    addItem(ui->alarmImportance, QStringLiteral("WARN"), 4);
-    addItem(ui->alarmImportance, QStringLiteral("NOTICE"), 5);
-    addItem(ui->alarmImportance, QStringLiteral("INFO"), 6);
+    addItem(ui->alarmImportance, QStringLiteral("OK"), Alarm::Ok);
+    addItem(ui->alarmImportance, QStringLiteral("ERR"), Alarm::Error);
+    addItem(ui->alarmImportance, QStringLiteral("WARN"), Alarm::Warning);
+    addItem(ui->alarmImportance, QStringLiteral("NOTICE"), Alarm::Notice);
+    addItem(ui->alarmImportance, QStringLiteral("INFO"), Alarm::Information);
 }
 
 void MainWindowPrivate::fillActionPicker()
 {
     ui->alarmAction->clear();
-    addItem(ui->alarmAction, QCoreApplication::translate("GUI", "Bestätigung"), 1);
-    addItem(ui->alarmAction, QCoreApplication::translate("GUI", "Keine Bestätigung"), 0);
-    addItem(ui->alarmAction, QCoreApplication::translate("GUI", "In Liste anzeigen"), 16);
+    addItem(ui->alarmAction, QCoreApplication::translate("GUI", "Bestätigung"), Alarm::Confirmation);
+    addItem(ui->alarmAction, QCoreApplication::translate("GUI", "Keine Bestätigung"), Alarm::NoConfirmation);
+    addItem(ui->alarmAction, QCoreApplication::translate("GUI", "In Liste anzeigen"), Alarm::ShowInList);
 }

@@ -24,8 +24,8 @@ public:
 
 signals:
     void alarmIdChanged(int signature); // 32 bits; signatures from 0x80000000 on arrive negative
-    void alarmImportanceChanged(int alarmImportance); // syslog severity, 0 for no alarm
-    void alarmActionChanged(int alarmAction); // 0 none, 1 confirm, 16 list only
+    void alarmImportanceChanged(int alarmImportance); // one of Alarm::Importance
+    void alarmActionChanged(int alarmAction); // one of Alarm::Action
     void startRequested();
     void stopRequested();
     void injectAlarmRequested();

@@ -3,6 +3,8 @@
 
 #include "modbusmanager.h"
 
+#include "alarm.h"
+#include "common/helpers/deviceidentity.h"
 #include "common/helpers/loggingcategories.h"
 #include "common/helpers/systemhelper.h"
 #include "common/modbus/varnomodbustcpslave.h"
@@ -30,7 +32,7 @@ constexpr int iteratorEnd = -1;
 constexpr quint16 registerPair = 2;
 
 enum Property : quint16 {
-    Alarm = 1000,
+    AlarmImportance = 1000,
     AlarmSignature = 1001,
     AlarmId = 1002,
     AlarmSound = 1003,
@@ -53,8 +55,9 @@ enum Property : quint16 {
     Version = 5006,
 };
 
-constexpr int followUpImportance = 4;
-constexpr int followUpSignature = 0x4102001A; // "Motor emergency operation."
+// What the device reports while there is an alarm, whichever it is.
+constexpr int presentAlarmId = 2;
+constexpr int presentAlarmCount = 1;
 
 } // namespace
 
@@ -94,7 +97,7 @@ void ModbusManager::setMotorShortcircuitAlarm()
 {
     // The device reports this one text, whichever alarm was chosen: masters look the text up by the
     // signature.
-    d->raiseAlarm(d->alarmImportance, d->alarmId, d->alarmAction, QStringLiteral("Motor too hot."));
+    d->raiseAlarm({d->alarmId, d->alarmImportance, d->alarmAction, defaultAlarm.message});
 }
 
 void ModbusManager::removeMotorShortcircuitAlarm()
@@ -137,7 +140,7 @@ void ModbusManagerPrivate::declareProperties()
     add(PressureSetHigh, "ComprPressure_SetH", 8.0F, "eep", "fwwwr3.1");
     add(Humidity, "Humidity", 10, "ram", "prrrr3.0");
     add(HumiditySetHigh, "Humidity_SetH", 20, "eep", "prrrr3.0");
-    add(Alarm, "Alarm", 0, "ram", "drr__");
+    add(AlarmImportance, "Alarm", 0, "ram", "drr__");
     add(AlarmSignature, "Alarm_Signature", 0, "ram", "xrrrr");
     add(AlarmId, "Alarm_Id", 0, "ram", "drr__");
     add(AlarmSound, "Alarm_Sound", 0, "ram", "drr__");
@@ -145,10 +148,10 @@ void ModbusManagerPrivate::declareProperties()
     add(AlarmTick, "Alarm_Tick", 0, "ram", "Trr__");
     add(AlarmAction, "Alarm_Action", 0, "ram", "dx___");
     add(AlarmMessage, "Alarm_Msg", QStringLiteral("No event."), "handler", "srrrr");
-    add(Reference, "REF", QStringLiteral("7316-20"), "text", "srrrr");
+    add(Reference, "REF", QString(DeviceIdentity::articleNumber), "text", "srrrr");
     add(DeviceSerialNumber, "DEV_SN", SystemHelper::getIdentifier(), "text", "srrrr");
     add(BoardSerialNumber, "PCB_SN", SystemHelper::getIdentifier(), "text", "srrrr");
-    add(ReferenceName, "REF_Name", QStringLiteral("Duo Orbis"), "text", "srrrr");
+    add(ReferenceName, "REF_Name", QString(DeviceIdentity::deviceName), "text", "srrrr");
     add(Version, "version", QStringLiteral("0.0"), "text", "srrrr");
     add(CareTimeNext, "Care_TimeNext", 200, "handler", "drrrr");
 }
@@ -196,23 +199,23 @@ void ModbusManagerPrivate::reversePropertyAnimation()
     }
 }
 
-void ModbusManagerPrivate::raiseAlarm(int importance, int signature, int action, const QString &message)
+void ModbusManagerPrivate::raiseAlarm(const Alarm &alarm)
 {
-    m_slave->setPropertyValue(Alarm, importance);
-    m_slave->setPropertyValue(AlarmSignature, signature);
-    m_slave->setPropertyValue(AlarmId, 2);
+    m_slave->setPropertyValue(AlarmImportance, alarm.importance);
+    m_slave->setPropertyValue(AlarmSignature, alarm.signature);
+    m_slave->setPropertyValue(AlarmId, presentAlarmId);
     m_slave->setPropertyValue(AlarmSound, 0);
-    m_slave->setPropertyValue(AlarmCount, 1);
+    m_slave->setPropertyValue(AlarmCount, presentAlarmCount);
     // Unsigned on purpose: masters get the low 16 bits from the registers and the whole number as text.
     m_slave->setPropertyValue(AlarmTick, static_cast<uint>(QDateTime::currentSecsSinceEpoch()));
-    m_slave->setPropertyValue(AlarmAction, action);
-    m_slave->setPropertyValue(AlarmMessage, message);
+    m_slave->setPropertyValue(AlarmAction, alarm.action);
+    m_slave->setPropertyValue(AlarmMessage, QString(alarm.message));
 }
 
 void ModbusManagerPrivate::clearAlarm()
 {
     for (const auto property :
-         {Alarm, AlarmSignature, AlarmId, AlarmSound, AlarmCount, AlarmTick, AlarmAction}) {
+         {AlarmImportance, AlarmSignature, AlarmId, AlarmSound, AlarmCount, AlarmTick, AlarmAction}) {
         m_slave->setPropertyValue(property, 0);
     }
     m_slave->setPropertyValue(AlarmMessage, QString(QLatin1String("")));
@@ -253,8 +256,8 @@ void ModbusManagerPrivate::handleMotorShortcircuitAlarmConfirmation(quint16 regi
     }
     const int action = m_slave->propertyValue(AlarmAction).toInt();
     const int signature = m_slave->propertyValue(AlarmSignature).toInt();
-    if (action != 0 || signature != alarmId) {
+    if (action != Alarm::NoConfirmation || signature != alarmId) {
         return;
     }
-    raiseAlarm(followUpImportance, followUpSignature, 0, QStringLiteral("Motor emergency operation."));
+    raiseAlarm(followUpAlarm);
 }

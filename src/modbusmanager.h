@@ -27,8 +27,8 @@ public slots:
 
     // These take effect when the alarm is raised next.
     void setAlarmId(int alarmId); // signature
-    void setAlarmImportance(int alarmImportance); // syslog severity, 0 for no alarm
-    void setAlarmAction(int alarmAction); // 0 none, 1 confirm, 16 list only
+    void setAlarmImportance(int alarmImportance); // one of Alarm::Importance
+    void setAlarmAction(int alarmAction); // one of Alarm::Action
 
     // Raises the alarm. A master confirms it by writing 0 to both registers of "Alarm_Action"; an emergency
     // operation alarm follows.

@@ -5,6 +5,8 @@
 
 #pragma once
 
+#include "alarm.h"
+
 #include <QList>
 #include <QObject>
 
@@ -20,7 +22,7 @@ class ModbusManagerPrivate : public QObject
 public:
     explicit ModbusManagerPrivate(ModbusManager *manager);
 
-    void raiseAlarm(int importance, int signature, int action, const QString &message);
+    void raiseAlarm(const Alarm &alarm);
     void clearAlarm();
 
     VarnoModbusTcpSlave *m_slave = nullptr;
@@ -29,9 +31,9 @@ public:
     PropertyAnimationWrapper *m_wrapper = nullptr;
     QPropertyAnimation *m_animation = nullptr;
     bool m_stopped = false;
-    int alarmId = 0x31020011; // "Motor too hot."
-    int alarmImportance = 3;
-    int alarmAction = 1;
+    int alarmId = defaultAlarm.signature;
+    int alarmImportance = defaultAlarm.importance;
+    int alarmAction = defaultAlarm.action;
     ModbusManager *const q;
 
 private slots:

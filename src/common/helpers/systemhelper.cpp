@@ -3,6 +3,7 @@
 
 #include "common/helpers/systemhelper.h"
 
+#include "common/helpers/deviceidentity.h"
 #include "common/helpers/loggingcategories.h"
 
 #include <QDir>
@@ -61,8 +62,8 @@ void SystemHelper::initializeConfigurationPath()
     if (base.isEmpty()) {
         base = QStringLiteral("C:/ProgramData");
     }
-    QString path = QStringLiteral("%1/%2/%3")
-                       .arg(base, QStringLiteral("Pelmora"), QStringLiteral("Ravel Monitor Orbis Simulator"));
+    QString path =
+        QStringLiteral("%1/%2/%3").arg(base, DeviceIdentity::organization, DeviceIdentity::application);
     const QString subdirectory = qEnvironmentVariable("TP_PD");
     if (!subdirectory.isEmpty()) {
         path += QStringLiteral("/%1").arg(subdirectory);
