@@ -38,8 +38,8 @@ static void write_float(modbus_t *device, int number, float value)
     uint32_t bits;
     memcpy(&bits, &value, sizeof bits);
     const uint16_t words[2] = {bits & 0xFFFF, bits >> 16};
-    /* The device echoes address and count byte-swapped. libmodbus takes that for an invalid answer, although the
-     * registers are written; what is left of the answer has to go before the next request. */
+    /* The device echoes address and count byte-swapped. libmodbus takes that for an invalid answer, although
+     * the registers are written; what is left of the answer has to go before the next request. */
     if (modbus_write_registers(device, number, 2, words) != 2 && errno != EMBBADDATA) {
         fail("writing");
     }
@@ -53,7 +53,8 @@ int main(int argc, char *argv[])
         fail("read_device HOST");
     }
     printf("pressure %.1f bar\n", read_float(device, PRESSURE));
-    printf("set points %.1f and %.1f bar\n", read_float(device, SET_POINTS), read_float(device, SET_POINTS + 2));
+    printf("set points %.1f and %.1f bar\n", read_float(device, SET_POINTS),
+           read_float(device, SET_POINTS + 2));
     write_float(device, SET_POINTS + 2, 9.0F);
     printf("upper set point now %.1f bar\n", read_float(device, SET_POINTS + 2));
     modbus_close(device);

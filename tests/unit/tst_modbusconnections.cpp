@@ -155,7 +155,9 @@ private slots:
         QFETCH(int, answerSize);
         m_answer.fill('a', answerSize);
         const int size = 4096;
-        QCOMPARE(setsockopt(static_cast<int>(m_connections->socketDescriptor()), SOL_SOCKET, SO_SNDBUF, reinterpret_cast<const char *>(&size), sizeof size), 0);
+        QCOMPARE(setsockopt(static_cast<int>(m_connections->socketDescriptor()), SOL_SOCKET, SO_SNDBUF,
+                            reinterpret_cast<const char *>(&size), sizeof size),
+                 0);
         ModbusClient stuck(port(), size);
         ModbusClient other(port());
         int asked = 0;
