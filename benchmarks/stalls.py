@@ -8,7 +8,6 @@ namespace whose cable is pulled.
 
 import contextlib
 import multiprocessing
-import os
 import socket
 import sys
 import time

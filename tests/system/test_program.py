@@ -53,9 +53,9 @@ class Program(harness.TestCase):
                                 timeout=harness.DEADLINE, check=False)
         self.assertEqual(second.returncode, 0)
         lines = re.findall(r"^(?:core|notifier): (.*)|(This is the first instance)", second.stdout, re.MULTILINE)
-        self.assertEqual([line for line, _ in lines], ["Checking for previous instance...",
-                         'Sending url "" to "RavelMonitorOrbisSimulator"',
-                         "Second instance detected! Shutting down!"])
+        self.assertEqual([line for line, _ in lines],
+                         ["Checking for previous instance...", 'Sending url "" to "RavelMonitorOrbisSimulator"',
+                          "Second instance detected! Shutting down!"])
         first.wait_for_log("This is the first instance")
 
         # Whatever else comes over the channel, the next URL is understood.
