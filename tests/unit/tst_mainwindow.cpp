@@ -48,26 +48,7 @@ private slots:
         m_languages = new LanguageManager(QStringLiteral(TRANSLATIONS_DIR), this);
     }
 
-    void init()
-    {
-        m_languages->setLanguage("de_DE"_s);
-        m_window = new MainWindow;
-        m_window->setSerialNumber("A%1"_s);
-        m_emissions.clear();
-        const auto record = [this](const char *name) {
-            return [this, name](auto... value) { m_emissions += QString::fromLatin1(name) + (QString::number(value) + ... + QString()); };
-        };
-        connect(m_window, &MainWindow::alarmIdChanged, this, record("id "));
-        connect(m_window, &MainWindow::alarmImportanceChanged, this, record("importance "));
-        connect(m_window, &MainWindow::alarmActionChanged, this, record("action "));
-        connect(m_window, &MainWindow::startRequested, this, record("start"));
-        connect(m_window, &MainWindow::stopRequested, this, record("stop"));
-        connect(m_window, &MainWindow::injectAlarmRequested, this, record("inject"));
-        connect(m_window, &MainWindow::removeAlarmRequested, this, record("remove"));
-        m_window->show();
-        QCoreApplication::processEvents();
-    }
-
+    void init() { open("de_DE"_s); }
     void cleanup() { delete m_window; }
 
     void operation_data() { addRows("window.txt"); }
@@ -86,6 +67,9 @@ private slots:
             } else if (verb == "language"_s) {
                 m_languages->setLanguage(rest);
                 QCoreApplication::processEvents();
+            } else if (verb == "reopen"_s) {
+                delete m_window;
+                open(rest);
             } else if (verb == "!"_s) {
                 QTest::ignoreMessage(QtCriticalMsg, qPrintable(rest));
             } else if (verb == "<"_s) {
@@ -164,6 +148,27 @@ private slots:
     }
 
 private:
+    // A window in this language, whose signals are recorded.
+    void open(const QString &language)
+    {
+        m_languages->setLanguage(language);
+        m_window = new MainWindow;
+        m_window->setSerialNumber("A%1"_s);
+        m_emissions.clear();
+        const auto record = [this](const char *name) {
+            return [this, name](auto... value) { m_emissions += QString::fromLatin1(name) + (QString::number(value) + ... + QString()); };
+        };
+        connect(m_window, &MainWindow::alarmIdChanged, this, record("id "));
+        connect(m_window, &MainWindow::alarmImportanceChanged, this, record("importance "));
+        connect(m_window, &MainWindow::alarmActionChanged, this, record("action "));
+        connect(m_window, &MainWindow::startRequested, this, record("start"));
+        connect(m_window, &MainWindow::stopRequested, this, record("stop"));
+        connect(m_window, &MainWindow::injectAlarmRequested, this, record("inject"));
+        connect(m_window, &MainWindow::removeAlarmRequested, this, record("remove"));
+        m_window->show();
+        QCoreApplication::processEvents();
+    }
+
     MainWindow *m_window = nullptr;
     LanguageManager *m_languages = nullptr;
     QStringList m_emissions; // every signal of the window, in order
