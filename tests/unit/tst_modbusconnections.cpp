@@ -16,6 +16,7 @@
 #ifdef Q_OS_WIN
 #include <winsock2.h>
 #else
+#include <sys/resource.h>
 #include <sys/socket.h>
 #endif
 
@@ -62,6 +63,13 @@ private slots:
         }
         QTRY_COMPARE(m_received.size(), 200);
         QTRY_COMPARE(sockets().size(), 100);
+
+        // Now all those that stayed are ready at once.
+        for (std::size_t i = 1; i < masters.size(); i += 2) {
+            masters.at(i)->write("y");
+            QVERIFY(masters.at(i)->waitForBytesWritten());
+        }
+        QTRY_COMPARE(m_received.count("y"), 100);
         masters.clear();
         QTRY_VERIFY(sockets().isEmpty());
     }
@@ -122,7 +130,39 @@ private slots:
         const QByteArray bytes(300000, 'x');
         master.write(bytes);
         QTRY_COMPARE(m_received.join(), bytes);
+        for (const QByteArray &read : qAsConst(m_received)) {
+            QVERIFY(read.size() <= 65536);
+        }
     }
+
+#ifndef Q_OS_WIN // which sets no such limit
+    // With 64 descriptors 16 are the channel's and 32 the rest of the program's.
+    void placesAreFew()
+    {
+        delete m_connections;
+        rlimit usual{};
+        QCOMPARE(getrlimit(RLIMIT_NOFILE, &usual), 0);
+        const rlimit low{64, usual.rlim_max};
+        QCOMPARE(setrlimit(RLIMIT_NOFILE, &low), 0);
+        init();
+        QCOMPARE(setrlimit(RLIMIT_NOFILE, &usual), 0);
+
+        QTest::ignoreMessage(QtWarningMsg, "Further Modbus masters have to wait, connected are 16");
+        QTest::ignoreMessage(QtWarningMsg, "Further Modbus masters have to wait, connected are 16");
+        std::vector<std::unique_ptr<ModbusClient>> masters;
+        for (int i = 0; i < 17; ++i) {
+            masters.push_back(std::make_unique<ModbusClient>(port()));
+        }
+        QTRY_COMPARE(sockets().size(), 16);
+        masters.erase(masters.begin()); // its place is the last one's
+        QCOMPARE(masters.back()->exchange(request, m_answer.size()), m_answer);
+        masters.clear();
+        for (int i = 0; i < 40; ++i) { // who has left does not count
+            ModbusClient guest(port());
+            QCOMPARE(guest.exchange(request, m_answer.size()), m_answer);
+        }
+    }
+#endif
 
     // The one that is served first deletes the other, whose turn would be next.
     void deletedWhileServed()
