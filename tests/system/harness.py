@@ -142,7 +142,11 @@ class Simulator:
 def start(arguments=(), environment=None):
     """Starts the program with the arguments and additional environment; returns once it is under way."""
     simulator = Simulator(arguments, environment or {})
-    simulator.wait_for_log("Configuration base path: ")
+    try:
+        simulator.wait_for_log("Configuration base path: ")
+    except AssertionError:
+        simulator.process.kill()
+        raise
     return simulator
 
 

@@ -40,7 +40,7 @@ class OtherHost(harness.Host):
             return harness.udp_socket("", port)
 
 
-class Discovery(unittest.TestCase):
+class Discovery(harness.TestCase):
     def test_device_is_found_through_one_and_two_cards(self):
         host = OtherHost()
         for cards in (1, 2):
@@ -48,7 +48,7 @@ class Discovery(unittest.TestCase):
             if cards == 1:
                 # By way of a gateway: with a bare default route Wine finds no interfaces at all.
                 harness.shell("ip route add default via 192.168.7.9")
-            simulator = harness.start(["--sn", "ABC123"])
+            simulator = self.start("--sn", "ABC123")
             simulator.wait_for_log(f'Added port for device "02:00:00:00:00:0{cards}"')
             with host.bind(0) as requester, host.bind(45124) as responses:
                 self.check_answers(host, requester, responses, cards)
