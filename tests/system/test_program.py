@@ -37,6 +37,17 @@ class Program(harness.TestCase):
         second.wait_for_log('Language from config file: "en_GB"')
         second.wait_for_log('Snapshot key "odd" is malformed.')
 
+    def test_requests_are_not_logged(self):
+        simulator = self.start()
+        simulator.wait_for_log("Added port for device")
+        master = self.connect()
+        requests = [(3, "07F00002"), (16, "07F0000204000040A0"), (103, "1627")]
+        harness.ask(master, *requests[0])  # the event loop runs: the start is over
+        before = simulator.log()
+        for function_code, data in requests * 2:
+            harness.ask(master, function_code, data)
+        self.assertEqual(simulator.log(), before)
+
     def test_command_line(self):
         simulator = self.start("--sn", "ABC123", "--language", "en_US", "--factorytech",
                                environment={"TP_PD": "other"})
