@@ -14,6 +14,8 @@
 #include <QThread>
 #include <QTimer>
 
+#include <functional>
+
 namespace {
 
 constexpr quint16 requestPort = 45123;
@@ -64,17 +66,22 @@ int socketsAfterCheck(OrvetPeerWorker &worker)
     return worker.findChildren<QUdpSocket *>().size();
 }
 
-// What a check logs of cards.
-QStringList linesOfCheck(OrvetPeerWorker &worker)
+// What is logged meanwhile.
+QStringList linesOf(const std::function<void()> &actions)
 {
     static QStringList lines;
     lines.clear();
     const auto handler = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
         lines += type == QtDebugMsg ? QStringList() : QStringList(QString(text).remove(u'"'));
     });
-    socketsAfterCheck(worker);
+    actions();
     qInstallMessageHandler(handler);
     return lines;
+}
+
+QStringList linesOfCheck(OrvetPeerWorker &worker)
+{
+    return linesOf([&worker] { socketsAfterCheck(worker); });
 }
 
 QString summary(const OrvetInformation &device)
@@ -151,6 +158,8 @@ private slots:
         Receiver responses(responsePort);
         OrvetPeerWorker worker;
         worker.start(requestPort, responsePort);
+        QVERIFY(worker.findChild<QTimer *>()->isActive());
+        QCOMPARE(worker.findChild<QTimer *>()->interval(), 30000);
         QCOMPARE(socketsAfterCheck(worker), 4);
 #ifdef Q_OS_LINUX // Wine takes the one that comes for the one that went
         QVERIFY(run("ip link delete card1"_s) && plugIn(1)); // away and back before anybody looked
@@ -159,19 +168,28 @@ private slots:
         worker.setOrvetName("Box %3"_s);
         worker.setOrvetDescription("Lab"_s);
         worker.setValue("z"_s, "1"_s);
+        Receiver requests(requestPort);
         broadcast(m_sender, "D while disabled");
-        QTest::qWait(50); // too short a wait could only hide a fault
+        QCOMPARE(requests.next(), QByteArray("D while disabled"));
+        for (QUdpSocket *socket : worker.findChildren<QUdpSocket *>()) {
+            QTRY_VERIFY(!socket->hasPendingDatagrams());
+        }
         worker.setHostEnabled(true);
         worker.setValue("b"_s, "2"_s);
         worker.setValue("z"_s, "3"_s);
         broadcast(m_sender, "G 02:00:00:00:00:a1");
         QCOMPARE(responses.next(), QByteArray("g 02:00:00:00:00:A1\tz=3\ndhcp=off\nb=2\n"));
 
-        QTest::ignoreMessage(QtWarningMsg, "Received invalid request type."); // by the card's socket
-        QTest::ignoreMessage(QtWarningMsg, "Received invalid request type."); // and the one for all cards
-        broadcast(m_sender, "X");
-        broadcast(m_sender, "D");
-        QCOMPARE(responses.next(), QByteArray("d 02:00:00:00:00:A1 192.168.1.1\tBox %3\tLab"));
+        QByteArray answer;
+        const QStringList lines = linesOf([&] {
+            for (const char *request : {"E", "P 02:00:00:00:00:A1 z=4", "A 02:00:00:00:00:A1 z=4", "X", "D"}) {
+                broadcast(m_sender, request);
+            }
+            answer = responses.next();
+        });
+        QCOMPARE(answer, QByteArray("d 02:00:00:00:00:A1 192.168.1.1\tBox %3\tLab"));
+        // By the card's socket and the one for all cards.
+        QCOMPARE(lines, QStringList({"Received invalid request type."_s, "Received invalid request type."_s}));
     }
 
     void responsesAreReported()
