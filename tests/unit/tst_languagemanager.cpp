@@ -65,18 +65,33 @@ private slots:
         QCOMPARE(hello(), "de_AT"_s);
     }
 
+    void searchPath()
+    {
+        const QDir base(m_directory->path());
+        const QString application = base.filePath("a/application"_s);
+        QTest::ignoreMessage(QtWarningMsg, "The directory containing the translation files could not be located.");
+        QCOMPARE(LanguageManager::findTranslations(application), application);
+        QVERIFY(base.mkpath(application));
+        for (const QString &directory : {"../src/i18n"_s, "../../install/i18n"_s, "../install/i18n"_s, "./i18n"_s}) { // the last one counts
+            QVERIFY(base.mkpath(application + "/"_s + directory));
+            QCOMPARE(LanguageManager::findTranslations(application), application + "/"_s + directory);
+        }
+    }
+
     void switching()
     {
-        translate({"de_DE"_s, "en_GB"_s});
+        translate({"de_DE"_s, "en_GB"_s, "../qt/qt_de"_s});
         auto manager = std::make_unique<LanguageManager>(m_path, nullptr);
         const LanguageManager second(QStringList(), nullptr);
         QCOMPARE(LanguageManager::instance(), manager.get());
+        QCOMPARE(QCoreApplication::translate("GUI", "../qt/qt_de"), "found"_s);
 
         QSignalSpy changed(manager.get(), SIGNAL(languageChanged(QString)));
         manager->setLanguage("en_GB"_s);
         QCOMPARE(changed.value(0).value(0).toString(), "en_GB"_s);
         QCOMPARE(QLocale(), QLocale("en_GB"_s));
         QCOMPARE(hello(), "en_GB"_s);
+        QCOMPARE(QCoreApplication::translate("GUI", "../qt/qt_de"), "../qt/qt_de"_s); // the toolkit's German is gone
 
         for (QTranslator *translator : manager->findChildren<QTranslator *>()) {
             QVERIFY(!translator->load(QString())); // leaves it empty, and an empty one is not installed
@@ -107,14 +122,15 @@ private slots:
     }
 
 private:
-    // Makes each stem.qm in the search path translate "Hallo" into its own stem.
+    // Makes each stem.qm in the search path translate "Hallo" into its own stem, and this into "found".
     void translate(const QStringList &stems)
     {
         for (const QString &stem : stems) {
             QFile source(m_path + "/"_s + stem + ".ts"_s);
             QVERIFY(QDir().mkpath(QFileInfo(source).path()) && source.open(QIODevice::WriteOnly));
             source.write("<TS version=\"2.1\"><context><name>GUI</name><message><source>Hallo</source><translation>" + stem.toUtf8()
-                         + "</translation></message></context></TS>");
+                         + "</translation></message><message><source>" + stem.toUtf8()
+                         + "</source><translation>found</translation></message></context></TS>");
             source.close();
             QCOMPARE(QProcess::execute(QStringLiteral(LRELEASE), {"-silent"_s, source.fileName()}), 0);
         }

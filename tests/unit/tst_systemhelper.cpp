@@ -4,6 +4,7 @@
 #include "common/helpers/systemhelper.h"
 #include "testdata.h"
 
+#include <QDir>
 #include <QSettings>
 #include <QUuid>
 
@@ -13,6 +14,19 @@ class TestSystemHelper : public QObject
 
 private slots:
     void initTestCase() { SystemHelper::initializeConfigurationPath(); }
+
+    void fallbackDirectory()
+    {
+        const QByteArray usual = qgetenv("PROGRAMDATA");
+        QVERIFY(QDir::setCurrent(QDir::tempPath()));
+        qputenv("PROGRAMDATA", "");
+        SystemHelper::initializeConfigurationPath();
+        const QDir fallback("C:/ProgramData/Pelmora/Ravel Monitor Orbis Simulator"_s); // a relative path where drives have no letters
+        QCOMPARE(SystemHelper::configurationPath(), fallback.absolutePath());
+        QVERIFY(fallback.exists());
+        qputenv("PROGRAMDATA", usual);
+        SystemHelper::initializeConfigurationPath();
+    }
 
     void identityIsKept()
     {
