@@ -43,9 +43,12 @@ private slots:
         m_storage.store("/long long"_s, Q_INT64_C(-9));
         m_storage.store("/texts"_s, QStringList("k"_s));
         const QSignalSpy saved(&m_storage, SIGNAL(snapshotSaved(QString)));
+        QFile file(m_path);
+        std::atomic<qint64> sizeWhenSaved = 0;
+        connect(&m_storage, &UnifiedStorage::snapshotSaved, &file, [&] { sizeWhenSaved = file.size(); }, Qt::DirectConnection);
         m_storage.saveSnapshot(m_path);
         QTRY_COMPARE(saved.value(0).value(0).toString(), m_path);
-        QFile file(m_path);
+        QCOMPARE(sizeWhenSaved.load(), file.size());
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts), dataLines("snapshot.json"));
     }
