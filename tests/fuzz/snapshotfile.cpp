@@ -5,8 +5,7 @@
 #include "common/other/unifiedstorage_p.h"
 #include "fuzztarget.h"
 
-#include <sys/mman.h>
-#include <unistd.h>
+#include <QTemporaryFile>
 
 // Qt's JSON parser forgets to free an object or list when its member appears once more.
 extern "C" const char *__lsan_default_suppressions()
@@ -17,15 +16,14 @@ extern "C" const char *__lsan_default_suppressions()
 // The whole file of the settings; what was read of it can be written again.
 static void fuzz(const QByteArray &input)
 {
-    static const int file = memfd_create("snapshot", 0);
-    static const QString path = QStringLiteral("/proc/self/fd/%1").arg(file);
+    static QTemporaryFile file;
+    static const bool opened = file.open();
     static UnifiedStorage storage;
     static auto *const writer = storage.findChild<UnifiedStoragePrivate *>();
 
-    const auto size = static_cast<size_t>(input.size());
-    const bool written = ftruncate(file, 0) == 0 && pwrite(file, input.constData(), size, 0) == input.size();
+    const bool written = opened && file.resize(0) && file.seek(0) && file.write(input) == input.size() && file.flush();
     Q_ASSERT(written);
     storage.clear();
-    storage.loadSnapshot(path);
-    writer->writeSnapshot(path);
+    storage.loadSnapshot(file.fileName());
+    writer->writeSnapshot(file.fileName());
 }
