@@ -17,6 +17,7 @@ import tempfile
 import time
 import unittest
 
+WINDOWS = "CHANNEL_WRITER" in os.environ  # under Wine
 NEW_NETWORK = 0x40000000  # CLONE_NEWNET
 DEADLINE = 30  # seconds; generous, for loaded machines and sanitizer builds
 VISIBLE = {"QT_QPA_PLATFORM": "xcb", "ASAN_OPTIONS": "detect_leaks=0"}  # the platform plugin has leaks of its own
@@ -87,7 +88,7 @@ def command(*arguments, program="SIMULATOR"):
 
 def write_to_channel(message, directory=None):
     """Connects to the single-instance channel, writes the bytes and hangs up; on Linux the program has then done so too."""
-    if "CHANNEL_WRITER" in os.environ:
+    if WINDOWS:
         subprocess.run(command(message.hex(), program="CHANNEL_WRITER"), check=True)
         return
     with socket.socket(socket.AF_UNIX) as channel:
