@@ -6,6 +6,7 @@ import json
 import os
 import pathlib
 import re
+import shlex
 import struct
 import subprocess
 import unittest
@@ -56,6 +57,13 @@ class Program(harness.TestCase):
         simulator.wait_for_log('Cannot parse event signature "0x3102000b-abscheider"')
         self.assertTrue((CONFIGURATION / "other").is_dir())
         self.assertFalse((CONFIGURATION / "other/sn_cache").exists())
+
+    def test_answers_on_a_console(self):
+        for option, code, answer in [("--help", 0, "--factorytech"), ("--odd", 1, "'odd'")]:
+            command = ["script", "-qec", shlex.join(harness.command(option)), "/dev/null"]
+            done = subprocess.run(command, stdout=subprocess.PIPE, text=True, timeout=harness.DEADLINE, check=False)
+            self.assertIn(answer, re.sub("\x1b.*?[a-zA-Z]", "", done.stdout))  # without what moves the cursor
+            self.assertEqual(done.returncode, code)
 
     def test_second_instance(self):
         first = self.start()
