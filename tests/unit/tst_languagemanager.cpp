@@ -23,6 +23,7 @@ public:
     static void initMain()
     {
         qputenv("LC_ALL", "de_AT.UTF-8");
+        qputenv("LANG", "de_AT.UTF-8"); // which is what counts on Windows
         qputenv("TZ", "UTC-1");
     }
 
