@@ -26,6 +26,15 @@ SHOW = ["tshark", "-2", "-X", f"lua_script:{ROOT}/wireshark/orbis.lua", "-T", "f
 
 
 class Dissector(unittest.TestCase):
+    def test_no_property_is_forgotten(self):
+        rows = [re.split(r" *\| *", line) for line in (ROOT / "tests/data/properties.txt").read_text().splitlines() if line[:1].isdigit()]
+        dissector = re.findall(r'\[(\d+)\] = { "(.)", "(.+)" }', (ROOT / "wireshark/orbis.lua").read_text())
+        self.assertEqual(dissector, [(number, descriptor[0], name) for number, name, _, descriptor, _ in rows])
+        page = re.findall(r"^\| (\d+) \| (\d+, \d+) \| `(.+)` \| (.+) \| (\w+) \| `(.+)` \|$", (ROOT / "docs/modbus.md").read_text(), re.M)
+        page = [[*row[:3], re.sub(r"\.0 \(float\)", "", row[3]).strip('"').replace("serial number", "SN-1"), *row[4:]] for row in page]
+        self.assertEqual(page, [[number, f"{2 * int(number)}, {2 * int(number) + 1}", name, value, storage, descriptor]
+                                for number, name, storage, descriptor, value in rows])
+
     def test_capture(self):
         harness.plug_in_card()
         simulator = harness.start(["--sn", "ABC123"])
