@@ -14,10 +14,10 @@
 namespace {
 
 // This many lines of one turn of the event loop are written at once, so that the last ones are there should
-// the program crash.
+// the program crash. Nothing that an operator or a well-behaved master does takes so many.
 constexpr int linesWrittenAtOnce = 16;
 
-constexpr int maximumPending = 65536;
+constexpr int maximumPending = 65536; // what an empty pipe takes in one piece
 
 // Of the main thread; the other threads log too little to make a crowd.
 struct Turn

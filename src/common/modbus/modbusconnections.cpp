@@ -20,9 +20,11 @@ constexpr int readSize = 65536;
 // So few that masters which connect and leave at full speed are served and dropped as fast as they come.
 constexpr int acceptsPerTurn = 16;
 
+// Whatever a server lacked may be there again, and no try fills the log with warnings.
 constexpr int restartDelayMs = 1000;
 
-// For the window, discovery and files; the single-instance channel has its own.
+// For the window, discovery and files, which hold 13 and two more for each interface; the single-instance
+// channel has its own.
 constexpr int reservedDescriptors = 32;
 
 } // namespace

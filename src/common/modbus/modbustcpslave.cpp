@@ -27,13 +27,15 @@ struct RegisterRange
     quint16 count;
 };
 
-// Both standard requests begin with it.
+// Both standard requests begin with a start and a count.
+constexpr int countOffset = 2;
 constexpr int rangeSize = 4;
 
 RegisterRange registerRange(const TcpApplicationDataUnit &request)
 {
     const QByteArray fields = request.pdu().data();
-    return {qFromBigEndian<quint16>(fields.constData()), qFromBigEndian<quint16>(fields.constData() + 2)};
+    return {qFromBigEndian<quint16>(fields.constData()),
+            qFromBigEndian<quint16>(fields.constData() + countOffset)};
 }
 
 // More registers than the 125 that the Modbus standard allows: up to 65,535, each with a warning if it was
@@ -41,11 +43,10 @@ RegisterRange registerRange(const TcpApplicationDataUnit &request)
 bool isLongRead(const QByteArray &bytes)
 {
     constexpr int standardLimit = 125;
-    constexpr int functionCodeOffset = TcpApplicationDataUnit::minimumSize - 1;
-    constexpr int countOffset = TcpApplicationDataUnit::minimumSize + 2;
     return bytes.size() >= TcpApplicationDataUnit::minimumSize + rangeSize
-        && bytes.at(functionCodeOffset) == ReadHoldingRegisters
-        && qFromBigEndian<quint16>(bytes.constData() + countOffset) > standardLimit;
+        && bytes.at(TcpApplicationDataUnit::functionCodeOffset) == ReadHoldingRegisters
+        && qFromBigEndian<quint16>(bytes.constData() + TcpApplicationDataUnit::minimumSize + countOffset)
+        > standardLimit;
 }
 
 } // namespace
@@ -250,7 +251,7 @@ ModbusTcpSlavePrivate::handleWriteMultipleRegisters(const TcpApplicationDataUnit
     // The device echoes both fields with their bytes swapped, and its masters expect that.
     QByteArray data(rangeSize, Qt::Uninitialized);
     qToLittleEndian(start, data.data());
-    qToLittleEndian(count, data.data() + 2);
+    qToLittleEndian(count, data.data() + countOffset);
     return data;
 }
 

@@ -8,7 +8,7 @@
 namespace {
 
 constexpr int lookAgainMs = 1;
-constexpr int roomRetryMs = 20; // the system may take much longer to empty a full send buffer
+constexpr int roomRetryMs = 20; // where there is no room, the master has not read for a while
 
 } // namespace
 

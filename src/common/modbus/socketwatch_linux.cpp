@@ -14,7 +14,8 @@
 
 namespace {
 
-// A turn of the event loop serves no more sockets than this, so that the window and new masters get theirs.
+// A turn of the event loop serves no more sockets than this, which takes about half a millisecond, so that
+// the window and new masters get theirs.
 constexpr int socketsPerTurn = 64;
 
 } // namespace

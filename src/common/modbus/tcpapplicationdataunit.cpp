@@ -9,7 +9,11 @@
 
 namespace {
 
-constexpr int headerSize = 7;
+constexpr int transactionIdOffset = 0;
+constexpr int protocolIdOffset = 2;
+constexpr int lengthOffset = 4;
+constexpr int unitIdOffset = 6;
+constexpr int headerSize = TcpApplicationDataUnit::functionCodeOffset;
 
 } // namespace
 
@@ -25,8 +29,9 @@ TcpApplicationDataUnit TcpApplicationDataUnit::fromByteArray(const QByteArray &b
         return {};
     }
     const char *header = bytes.constData();
-    return {qFromBigEndian<quint16>(header), qFromBigEndian<quint16>(header + 2),
-            static_cast<quint8>(bytes.at(6)), ProtocolDataUnit::fromByteArray(bytes.mid(headerSize))};
+    return {qFromBigEndian<quint16>(header + transactionIdOffset),
+            qFromBigEndian<quint16>(header + protocolIdOffset), static_cast<quint8>(bytes.at(unitIdOffset)),
+            ProtocolDataUnit::fromByteArray(bytes.mid(headerSize))};
 }
 
 QByteArray TcpApplicationDataUnit::toByteArray() const
@@ -34,12 +39,12 @@ QByteArray TcpApplicationDataUnit::toByteArray() const
     const QByteArray data = m_pdu.data();
     QByteArray bytes(minimumSize + data.size(), Qt::Uninitialized);
     char *header = bytes.data();
-    qToBigEndian(m_transactionId, header);
-    qToBigEndian(m_protocolId, header + 2);
+    qToBigEndian(m_transactionId, header + transactionIdOffset);
+    qToBigEndian(m_protocolId, header + protocolIdOffset);
     // An answer of more registers than Modbus allows outgrows this field, which then wraps.
-    qToBigEndian(static_cast<quint16>(data.size() + 2), header + 4);
-    header[6] = static_cast<char>(m_unitId);
-    header[7] = static_cast<char>(m_pdu.functionCode());
+    qToBigEndian(static_cast<quint16>(bytes.size() - unitIdOffset), header + lengthOffset);
+    header[unitIdOffset] = static_cast<char>(m_unitId);
+    header[functionCodeOffset] = static_cast<char>(m_pdu.functionCode());
     std::copy(data.begin(), data.end(), header + minimumSize);
     return bytes;
 }

@@ -17,8 +17,10 @@
 class TcpApplicationDataUnit : public IApplicationDataUnit
 {
 public:
+    static constexpr int functionCodeOffset = 7;
+
     // Header and function code: the shortest frame that says anything.
-    static constexpr int minimumSize = 8;
+    static constexpr int minimumSize = functionCodeOffset + 1;
 
     TcpApplicationDataUnit() = default;
     TcpApplicationDataUnit(quint16 transactionId, quint16 protocolId, quint8 unitId,

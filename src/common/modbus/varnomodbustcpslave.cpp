@@ -19,6 +19,9 @@ enum FunctionCode : quint8 {
     ReadValue = 103,
 };
 
+// A request of these codes carries one register number.
+constexpr int registerNumberSize = sizeof(quint16);
+
 quint16 lowRegister(quint16 property)
 {
     return static_cast<quint16>(2 * property);
@@ -130,7 +133,7 @@ VarnoModbusTcpSlavePrivate::handleCustomFunctionCode(const TcpApplicationDataUni
                             << "is not supported.";
         return {};
     }
-    if (!hasData(request, 2)) {
+    if (!hasData(request, registerNumberSize)) {
         return {};
     }
 

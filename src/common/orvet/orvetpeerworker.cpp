@@ -15,8 +15,8 @@ namespace {
 
 constexpr int interfaceCheckIntervalMs = 30000;
 
-// A flood must not hold up the calls queued to this thread, for which the window may be waiting. What is left
-// in the socket announces itself again.
+// A flood must not hold up the calls queued to this thread, for which the window may be waiting: these take
+// up to 20 ms if they are of the costliest kind. What is left in the socket announces itself again.
 constexpr int datagramsPerTurn = 4;
 constexpr qint64 maximumDatagramSize = 65535;
 

@@ -32,7 +32,8 @@ const QLatin1String nativeScheme("native://"); // as JSON
 const QLatin1String mappedScheme("mapped://"); // as a JSON object; the key has "?" and the type behind it
 const QLatin1String binaryScheme("binary://"); // as the Base64 text of its QDataStream form
 
-// QMetaType normalises the names it is asked for, one level of recursion a template argument.
+// QMetaType normalises the names it is asked for, one level of recursion a template argument. Types that can
+// be mapped have names far shorter than this.
 constexpr int maxTypeNameLength = 100;
 
 // Far more than settings take. Parsed, a file needs ten times its size and more.
