@@ -3,8 +3,8 @@
 #
 # A thin front for CMake: each target installs what it misses and then does the one thing that it is named after.
 
-build_packages = g++ cmake ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
-test_packages = $(build_packages) dpkg-dev file iproute2 python3 python3-pymodbus python3-pytest python3-serial python3-serial-asyncio mbpoll \
+build_packages = @build @linux
+test_packages = $(build_packages) @deb iproute2 python3 python3-pymodbus python3-pytest python3-serial python3-serial-asyncio mbpoll \
     libmodbus-dev mono-mcs pkg-config tshark xdotool xvfb
 lint_packages = $(test_packages) clang-format clang-tidy clazy cmake-format codespell cppcheck flake8 lua-check reuse shellcheck
 
