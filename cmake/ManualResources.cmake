@@ -18,7 +18,6 @@ function(add_manual_resource out_variable qrc)
         VERBATIM)
     set_source_files_properties("${output}" PROPERTIES
         COMPILE_DEFINITIONS "dummy=*unregistered"
-        COMPILE_OPTIONS "-w"
-        SKIP_AUTOMOC ON)
+        COMPILE_OPTIONS "-w")
     set(${out_variable} "${output}" PARENT_SCOPE)
 endfunction()
