@@ -9,6 +9,9 @@
 
 #include "latencyhistogram.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include <arpa/inet.h>
 #include <getopt.h>
 #include <netinet/in.h>
@@ -22,7 +25,6 @@
 #include <array>
 #include <cerrno>
 #include <chrono>
-#include <cinttypes>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -174,13 +176,19 @@ public:
     {
         const auto microseconds = [](std::uint64_t value) { return static_cast<double>(value) / 1000; };
         const auto requests = static_cast<double>(m_latencies.count());
-        std::printf("{\"requests\": %" PRIu64 ", \"seconds\": %.3f, \"requests_per_second\": %.1f, "
-                    "\"p50_us\": %.1f, \"p99_us\": %.1f, \"p999_us\": %.1f, \"max_us\": %.1f, "
-                    "\"best_to_worst\": %.2f, \"server_cpu_us\": %.2f, \"generator_cpu_share\": %.2f}\n",
-                    m_latencies.count(), m_seconds, requests / m_seconds,
-                    microseconds(m_latencies.quantile(0.5)), microseconds(m_latencies.quantile(0.99)),
-                    microseconds(m_latencies.quantile(0.999)), microseconds(m_latencies.maximum()),
-                    bestToWorst(), m_serverCpu * 1e6 / requests, m_ownCpu / m_seconds);
+        const QJsonObject figures{
+            {QStringLiteral("requests"), static_cast<qint64>(m_latencies.count())},
+            {QStringLiteral("seconds"), m_seconds},
+            {QStringLiteral("requests_per_second"), requests / m_seconds},
+            {QStringLiteral("p50_us"), microseconds(m_latencies.quantile(0.5))},
+            {QStringLiteral("p99_us"), microseconds(m_latencies.quantile(0.99))},
+            {QStringLiteral("p999_us"), microseconds(m_latencies.quantile(0.999))},
+            {QStringLiteral("max_us"), microseconds(m_latencies.maximum())},
+            {QStringLiteral("best_to_worst"), bestToWorst()},
+            {QStringLiteral("server_cpu_us"), m_serverCpu * 1e6 / requests},
+            {QStringLiteral("generator_cpu_share"), m_ownCpu / m_seconds},
+        };
+        std::puts(QJsonDocument(figures).toJson(QJsonDocument::Compact).constData());
     }
 
 private:
