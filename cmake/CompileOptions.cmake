@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
 
-# simulator_options: language level, warnings and Qt definitions that every target of the project links.
+# The language level of all targets, and simulator_options: warnings and Qt definitions that every target links.
 
 option(SIMULATOR_WERROR "Treat compiler warnings as errors" OFF)
 set(SIMULATOR_SANITIZERS "" CACHE STRING "Sanitizers to build with, such as address,undefined")
