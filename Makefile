@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
 #
-# A thin front for CMake: each target installs what it misses and then does the one thing that it is named after.
+# A thin front for CMake: each target installs missing packages and then does the one thing it is named after.
 
 build_packages = @build @linux
 test_packages = $(build_packages) @deb iproute2 python3 python3-pymodbus python3-pytest python3-serial python3-serial-asyncio mbpoll \

@@ -4,8 +4,8 @@
 """Measures the simulator beside other Modbus TCP servers and writes what it found as Markdown.
 
 Run through tests/isolated, which gives it a network of its own with port 502 free. Every cell of the comparison is
-a fresh process under the same load, the servers taking turns (A B C A B C ...) so that a change of the machine's
-mood meets all of them. Shares are taken within a round and the median of all rounds is shown. All servers with Qt
+a fresh process under the same load, the servers taking turns (A B C A B C ...) so that a change in the
+machine's speed affects all of them. Shares are taken within a round and the median of all rounds is shown. All servers with Qt
 inside run without GLib's event loop: the simulator decides so by itself, the others are told.
 """
 
@@ -378,8 +378,8 @@ def report(bench, arguments):
         "## Fairness",
         "Answers to the master that got most, divided by answers to the one that got fewest, in closed loop.",
         fairness_table(bench, 0.5 if arguments.quick else 3),
-        "## Beside masters that do not behave",
-        "A good master asks every 10 ms beside others whose receive buffers hold 4 kB.",
+        "## Beside badly behaved masters",
+        "A well-behaved master asks every 10 ms beside others whose receive buffers hold 4 kB.",
         stall_table(bench, 3 if arguments.quick else 20),
         "## Start-up, memory, idle load",
         footprint_table(bench, arguments.quick),

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
-"""How long a master waits beside others that do not behave.
+"""How long a master waits beside badly behaved ones.
 
 The good master asks every 10 ms. Its neighbours run in a process of their own; those behind a dead link in a network
 namespace whose cable is pulled.

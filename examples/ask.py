@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
-"""A Modbus TCP client for the device, in one file without dependencies.
+"""A Modbus TCP master for the device, in one file without dependencies.
 
 As a command it sends one request and prints the answer, both in hex: ask.py HOST BYTES...
 As a module:
@@ -56,7 +56,7 @@ class Device:
         return data
 
     def ask(self, code, data):
-        """What follows the function code in the answer. The device tells no errors: it stays silent instead."""
+        """What follows the function code in the answer. The device reports no errors: it stays silent instead."""
         return self.exchange(struct.pack(">HHHBB", 1, 0, 2 + len(data), 1, code) + data)[8:]
 
     def registers(self, first, count):
@@ -96,7 +96,7 @@ class Device:
         return Alarm(self.read(1000), self.read(1001), self.read(4002), self.text(4004))
 
     def confirm(self):
-        """Confirms the alarm and returns the one that the device replaces it by, or the same if it takes no notice."""
+        """Confirms the alarm and returns the one that the device replaces it by, or the same if it ignored that."""
         self.write(4002, 0)
         return self.alarm()
 

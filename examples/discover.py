@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: MIT
 """Finds devices on the local network and prints their properties: discover.py [ADDRESS]
 
-ADDRESS is this computer's address on the network card to ask through; without it the system chooses the card.
+ADDRESS is this computer's address on the interface to ask through; without it the system chooses the interface.
 """
 
 import getpass
@@ -28,7 +28,7 @@ def udp_socket(address, port):
 
 
 class Discovery:
-    """Asks through the network card that has this address of the computer's; without one the system chooses the card."""
+    """Asks through the network interface with this address; without one the system chooses the interface."""
 
     def __init__(self, address=""):
         self._requests, self._responses = udp_socket(address, 0), udp_socket("", RESPONSE_PORT)
@@ -45,7 +45,7 @@ class Discovery:
         try:
             self._requests.sendto(request.encode(), ("255.255.255.255", REQUEST_PORT))
         except OSError as error:
-            sys.exit(f"{error.strerror}: name this computer's address on the network card to ask through")
+            sys.exit(f"{error.strerror}: name this computer's address on the network interface to ask through")
         end = time.monotonic() + PATIENCE
         while time.monotonic() < end and select.select([self._responses], [], [], SILENCE)[0]:
             yield self._responses.recv(65536).decode(errors="replace")

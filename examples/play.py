@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
-"""Plays a scenario: a second master that moves the simulator's registers while the client under test looks on.
+"""Plays a scenario: a second master that moves the simulator's registers while the master under test looks on.
 
 A scenario names the registers that it uses and lists its steps, which are played in turn:
 
@@ -64,7 +64,7 @@ class Player:
         end = time.monotonic() + seconds
         while any(self.read(name) != number(value) for name, value in wanted.items()):
             if time.monotonic() > end:
-                sys.exit(f"  waited {seconds} s in vain for {text}")
+                sys.exit(f"  waited {seconds} s for {text}, which did not come")
             if self.confirms:
                 self.write("Alarm_Action", 0)
             time.sleep(0.1)
@@ -83,7 +83,7 @@ def number(value):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("--confirm", action="store_true", help="stand in for the client: confirm the alarms too")
+    parser.add_argument("--confirm", action="store_true", help="stand in for the master under test: confirm the alarms too")
     parser.add_argument("host")
     parser.add_argument("scenario")
     arguments = parser.parse_args()

@@ -1,7 +1,7 @@
 /* SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
  * SPDX-License-Identifier: MIT
  *
- * A minimal client on libmodbus: reads the pressure and its set points, then raises the upper set point.
+ * A minimal master on libmodbus: reads the pressure and its set points, then raises the upper set point.
  *
  *   read_device HOST
  */

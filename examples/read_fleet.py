@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: MIT
 """Reads serial number and pressure of every device in reach.
 
-  read_fleet.py [ADDRESS]     those that discovery finds; ADDRESS is this computer's on the card to ask through
+  read_fleet.py [ADDRESS]     those that discovery finds; ADDRESS is this computer's on the interface to ask through
   read_fleet.py --name NAME   those that a host name stands for, as the name of a headless Kubernetes service does
 """
 

@@ -3,7 +3,7 @@
 
 """Mixed load on the running program for the given minutes.
 
-The simulation runs, alarms come and go, the language changes, network cards flap, masters ask, write, come, go, stall and
+The simulation runs, alarms come and go, the language changes, network interfaces flap, masters ask, write, come, go, stall and
 send nonsense. Every answer is checked. Prints memory and descriptors once a minute, at the end the growth of memory in an
 hour and what the program logged as a warning or worse. Fails on a wrong or missing answer, on lost descriptors and on more
 than 1 MB an hour.
@@ -124,7 +124,7 @@ class Soak:
                 print(f"{reported:4} min  {rounds:8} rounds  {self.memory():7} kB  {self.descriptors():3} descriptors", flush=True)
                 reported += 1
         assert len(self.pressures) > 100, "the pressure does not move"
-        harness.wait_until(lambda: self.descriptors() <= descriptors, "the descriptors of gone masters")
+        harness.wait_until(lambda: self.descriptors() <= descriptors, "the descriptors of masters that left")
         slope = statistics.linear_regression(*zip(*samples)).slope * 3600 / 1024
         print(f"{rounds} rounds, memory {slope:+.3f} MB an hour")
         return slope

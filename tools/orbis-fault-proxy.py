@@ -1,12 +1,12 @@
 #!/usr/bin/python3
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
-"""Stands between clients and devices, and makes trouble: passes on Modbus TCP, and discovery, with faults of your choice.
+"""Stands between masters and devices: passes on Modbus TCP and discovery, with faults of your choice.
 
   orbis-fault-proxy [FAULTS] [ADDRESS:]PORT[=DEVICE[:PORT]]... [-- COMMAND...]
 
 Each pair is a port to listen on and a device to pass on to; what is left out is 127.0.0.1, and port 502 of the device. With a
-COMMAND, the proxy runs it, ends with it and hands on its exit code. Instead of PORT, fd:NUMBER takes over a listening socket.
+COMMAND, the proxy runs it, ends with it and passes on its exit code. Instead of PORT, fd:NUMBER takes over a listening socket.
 
 The faults change at run time: each line sent to the --control port is a JSON object such as {"delay": 2, "on": "both"}, which
 sets what it names and switches off the rest. "of" restricts it to one listening port, or to "discovery".
@@ -80,7 +80,7 @@ class Link:
         return self.faults if self.faults.on in (direction, "both") else Faults()
 
     async def serve(self, client, to_client):
-        """Passes on between a client, which has just connected, and the device, until both have ended."""
+        """Passes on between a master, which has just connected, and the device, until both have ended."""
         try:
             device, to_device = await asyncio.open_connection(*self.device)
         except OSError as error:
@@ -146,18 +146,18 @@ async def send(sink, data, faults):
 
 
 def reset(writer):
-    """Closes the connection in a way that the other side meets as "connection reset"."""
+    """Closes the connection in a way that the other side sees as "connection reset"."""
     if not writer.is_closing():
         writer.get_extra_info("socket").setsockopt(socket.SOL_SOCKET, socket.SO_LINGER, struct.pack("ii", 1, 0))
         writer.transport.abort()
 
 
 class Discovery(Link):
-    """Carries discovery from the clients' network card to that of the devices, and the answers back."""
+    """Carries discovery from the masters' network interface to that of the devices, and the answers back."""
 
     def __init__(self, cards, faults, addresses):
         super().__init__(None, faults)
-        self.addresses = addresses  # of the devices; a client is to find the proxy there
+        self.addresses = addresses  # of the devices; a master has to find the proxy there
         clients, devices = cards
         for direction, (source, sink) in {"requests": (clients, devices), "answers": (devices, clients)}.items():
             port = DISCOVERY_PORTS[direction]
@@ -236,7 +236,8 @@ def parse():
     parser = argparse.ArgumentParser(prog="orbis-fault-proxy", description=__doc__, usage=argparse.SUPPRESS,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("pairs", nargs="*", metavar="PORT=DEVICE", help="where to listen, and what to pass on to")
-    parser.add_argument("--discovery", metavar="CARD=CARD", help="pass on discovery between the clients' and the devices' card")
+    parser.add_argument("--discovery", metavar="INTERFACE=INTERFACE",
+                        help="pass on discovery between the masters' and the devices' interface")
     parser.add_argument("--control", metavar="PORT", help="take changes of the faults on this port of 127.0.0.1")
     for option in dataclasses.fields(Faults):
         kind = {"action": "store_true"} if option.type is bool else {"type": option.type, "default": option.default}

@@ -4,7 +4,7 @@
 """Runs a fleet: simulated devices on one bridge, with addresses and serial numbers counted up.
 
   orbis-fleet 20                 until Ctrl+C
-  orbis-fleet 20 -- COMMAND...   while the command runs beside them; hands on its exit code
+  orbis-fleet 20 -- COMMAND...   while the command runs beside them; passes on its exit code
 
 Device 1 has the address 192.168.4.1, the hardware address 02:00:00:00:00:01 and the serial number SN1. The command
 is at 192.168.7.254 and reaches nothing but the devices. Neither root nor a container engine is needed: bridge and
@@ -32,7 +32,7 @@ MOST = 1000  # a bridge has 1023 ports
 DEADLINE = 300  # seconds for a device to answer; a thousand of them start at once
 NETWORK = ipaddress.ip_network("192.168.4.0/22")
 CLIENT, CLIENT_CARD = "192.168.7.254", "02:00:00:00:FF:FF"
-# Some clients take no device to have an address that ends in 0 or 255.
+# Some masters refuse addresses that end in 0 or 255.
 ADDRESSES = [str(host) for host in NETWORK.hosts() if host.packed[3] not in (0, 255) and str(host) != CLIENT]
 
 TOP = pathlib.Path(__file__).resolve().parents[1]  # of the source tree or of the installed program's directory
@@ -83,7 +83,7 @@ class Device:
             os.close(own)
 
     def _plug_in(self, port, own, home, port_isolation):
-        """Before the start: the program looks for cards then, and after that only twice a minute."""
+        """Before the start: the program looks for interfaces then, and after that only twice a minute."""
         # Of a thousand devices not all would hear each other's ARP requests, and connecting would take seconds.
         ip(f"link add card address {self._card} type veth peer name {port} netns /proc/{os.getpid()}/fd/{home}",
            f"address add {self.address}/{NETWORK.prefixlen} dev card", "link set lo up",
@@ -124,7 +124,7 @@ class Device:
 def run_beside(command):
     """The exit code of the command; without one 0, as soon as the user has had enough."""
     if not command:
-        say("A client of your own, in another terminal:\n"
+        say("A program of your own, in another terminal:\n"
             f"  nsenter --target {os.getpid()} --user --preserve-credentials --net COMMAND...\n"
             "Ctrl+C ends the fleet.")
         try:

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
-"""Runs a command beside a simulator of its own and hands on its exit code.
+"""Runs a command beside a simulator of its own and passes on its exit code.
 
 Both run in private namespaces: without root or sudo, the command finds the simulator at 127.0.0.1, port 502, and through
 discovery at 192.168.7.1, and nothing else on the network. The command begins when the simulator answers with its own serial

@@ -1,7 +1,7 @@
 -- SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 -- SPDX-License-Identifier: MIT
 --
--- Shows what travels between the device and its clients: Orvet discovery on UDP ports 45123 and 45124, and over
+-- Shows what travels between the device and its masters: Orvet discovery on UDP ports 45123 and 45124, and over
 -- Modbus TCP the values of properties and the device's own function codes 100 to 103. Wireshark loads it from its
 -- personal plugin folder; "tshark -X lua_script:orbis.lua" loads it for one run.
 

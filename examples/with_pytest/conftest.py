@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """A pytest fixture: a simulator of its own for each test, on a free port, with faults on demand.
 
-Needs orbis-with-simulator and orbis-fault-proxy in the PATH; the package brings both.
+Needs orbis-with-simulator and orbis-fault-proxy in the PATH; the package has both.
 """
 
 import json

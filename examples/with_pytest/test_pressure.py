@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
-"""How to test a client: with pymodbus 3, and with asyncio alone. To be run by pytest."""
+"""How to test a master: with pymodbus 3, and with asyncio alone. To be run by pytest."""
 
 import asyncio
 import struct

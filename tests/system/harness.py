@@ -45,7 +45,7 @@ def shell(script):
 
 
 def plug_in_card():
-    """Gives this host a network card "lan", 192.168.7.1 with hardware address 02:00:00:00:00:01."""
+    """Gives this host a network interface "lan", 192.168.7.1 with hardware address 02:00:00:00:00:01."""
     shell("ip link add lan address 02:00:00:00:00:01 type veth peer name wire; ip link set wire up;"
           "ip link set lan up; ip address add 192.168.7.1/24 dev lan")
 
