@@ -6,7 +6,8 @@
 build_packages = @build @linux
 test_packages = $(build_packages) @deb iproute2 python3 python3-pymodbus python3-pytest python3-serial python3-serial-asyncio mbpoll \
     libmodbus-dev mono-mcs pkg-config tshark xdotool xvfb
-lint_packages = $(test_packages) clang-format clang-tidy clazy cmake-format codespell cppcheck flake8 lua-check reuse shellcheck
+benchmark_packages = $(test_packages) libqt5serialbus5-dev libbenchmark-dev
+lint_packages = $(benchmark_packages) clang-format clang-tidy clazy cmake-format codespell cppcheck flake8 lua-check reuse shellcheck
 
 .PHONY: run test test-windows lint package bench fuzz coverage soak build clean
 
@@ -41,7 +42,7 @@ package:
 	cd dist && sha256sum * > SHA256SUMS
 
 bench:
-	@scripts/require-packages $(test_packages) libqt5serialbus5-dev libbenchmark-dev nodejs
+	@scripts/require-packages $(benchmark_packages) nodejs
 	scripts/bench --output docs/benchmarks.md
 
 # FOR=10000000 runs, or FOR=600s, for each target.

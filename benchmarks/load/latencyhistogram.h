@@ -43,7 +43,7 @@ private:
     {
         const unsigned highestBit = 63U - static_cast<unsigned>(__builtin_clzll(value | 1U));
         const unsigned shift = highestBit > 6 ? highestBit - 6 : 0;
-        return shift * 64U + static_cast<std::size_t>(value >> shift);
+        return std::size_t{64} * shift + static_cast<std::size_t>(value >> shift);
     }
 
     static std::uint64_t valueOf(std::size_t index)
@@ -51,7 +51,7 @@ private:
         return index < 128 ? index : (64U + index % 64U) << (index / 64U - 1U);
     }
 
-    std::vector<std::uint64_t> m_buckets = std::vector<std::uint64_t>(60U * 64U);
+    std::vector<std::uint64_t> m_buckets = std::vector<std::uint64_t>(std::size_t{60} * 64);
     std::uint64_t m_count = 0;
     std::uint64_t m_maximum = 0;
 };

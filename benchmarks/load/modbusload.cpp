@@ -66,7 +66,7 @@ struct Master
 
 [[noreturn]] void fail(const std::string &what, int error = 0)
 {
-    throw std::runtime_error(error ? what + ": " + std::strerror(error) : what);
+    throw std::runtime_error(error != 0 ? what + ": " + std::strerror(error) : what);
 }
 
 Bytes fromHex(const std::string &text)

@@ -20,7 +20,7 @@ static void fuzz(const QByteArray &input)
     QByteArray request = input;
     if (request.size() > 11 && request.at(7) == 3 && request.mid(10, 2) != "\xff\xff") {
         request[10] = 0; // long answers take milliseconds each, so of them there is only the longest
-        request[11] = input.at(11) & 31;
+        request[11] = static_cast<char>(input.at(11) & 31);
     }
     slave->m_registers = registers; // as after start-up, whatever the last input wrote
     master.feed({});

@@ -8,6 +8,7 @@
 #include <QTemporaryFile>
 
 // Qt's JSON parser forgets to free an object or list when its member appears once more.
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the sanitizer looks for this name.
 extern "C" const char *__lsan_default_suppressions()
 {
     return "leak:libQt5Core.so";

@@ -95,7 +95,7 @@ private slots:
             masters.at(master).write(bytes);
             QVERIFY(masters.at(master).flush());
         };
-        for (std::size_t master : {0, 1, 2}) {
+        for (std::size_t master : {0U, 1U, 2U}) {
             send(master, "long");
         }
         send(3, "short");
