@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include <QLatin1String>
-
 // The device's alarms. All numbers reach masters as they are.
 struct Alarm
 {
@@ -27,12 +25,12 @@ struct Alarm
     int signature; // 32 bits; those from 0x80000000 on are negative here
     int importance;
     int action;
-    QLatin1String message; // as the device reports it, in English whatever the window speaks
+    const char *message; // as the device reports it, in English whatever the window speaks
 };
 
 // In force while the operator cannot choose an alarm.
-constexpr Alarm defaultAlarm{0x31020011, Alarm::Error, Alarm::Confirmation, QLatin1String("Motor too hot.")};
+constexpr Alarm defaultAlarm{0x31020011, Alarm::Error, Alarm::Confirmation, "Motor too hot."};
 
 // Replaces an alarm that a master has confirmed.
 constexpr Alarm followUpAlarm{0x4102001A, Alarm::Warning, Alarm::NoConfirmation,
-                              QLatin1String("Motor emergency operation.")};
+                              "Motor emergency operation."};

@@ -209,7 +209,7 @@ void ModbusManagerPrivate::raiseAlarm(const Alarm &alarm)
     // Unsigned on purpose: masters get the low 16 bits from the registers and the whole number as text.
     m_slave->setPropertyValue(AlarmTick, static_cast<uint>(QDateTime::currentSecsSinceEpoch()));
     m_slave->setPropertyValue(AlarmAction, alarm.action);
-    m_slave->setPropertyValue(AlarmMessage, QString(alarm.message));
+    m_slave->setPropertyValue(AlarmMessage, QString(QLatin1String(alarm.message)));
 }
 
 void ModbusManagerPrivate::clearAlarm()
