@@ -66,7 +66,6 @@ private slots:
                 m_window->onUrlReceived(QUrl(rest));
             } else if (verb == "language"_s) {
                 m_languages->setLanguage(rest);
-                QCoreApplication::processEvents();
             } else if (verb == "reopen"_s) {
                 delete m_window;
                 open(rest);
@@ -79,6 +78,7 @@ private slots:
             } else {
                 QCOMPARE(object->property(property.constData()).toString(), rest);
             }
+            QCoreApplication::processEvents(); // a change of the language reaches the window by one
         }
         QCOMPARE(m_emissions, QStringList());
     }
