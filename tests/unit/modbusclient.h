@@ -45,34 +45,42 @@ public:
 };
 
 // Plays the steps of a conversation with a device in this thread:
-//   > bytes       the master sends them, and the device reads them at once
-//   < bytes       are what comes back next
-//   ! text        a warning that the next step causes
-//   swing number  takes the device's simulation to these milliseconds of a swing, and halts it there
-//   slot [number] calls the device's slot
-inline void play(const QStringList &steps, ModbusClient &client, QObject *device)
+//   > bytes        the master sends them, and the device reads them at once
+//   < bytes        are what comes back next
+//   read, written  is what the device reports next
+//   ! type text    a line that the next step logs
+//   swing number   takes the device's simulation to these milliseconds of a swing, and halts it there
+//   slot [number]  calls the device's slot
+inline void play(const QList<DataLine> &steps, ModbusClient &client, QObject *device, QStringList *reports)
 {
-    for (const QString &step : steps) {
-        const QString verb = step.section(u' ', 0, 0);
-        const QString rest = step.section(u' ', 1);
-        const QByteArray bytes = QByteArray::fromHex(rest.toLatin1());
+    for (const DataLine &step : steps) {
+        const QString verb = step.verb();
+        const QByteArray bytes = QByteArray::fromHex(step.rest().toLatin1());
         if (verb == ">"_s) {
             const QSignalSpy read(device->findChild<ModbusConnections *>(), &ModbusConnections::requestReceived);
             client.write(bytes);
-            QVERIFY(QTest::qWaitFor([&] { return read.count() > 0; }));
+            QVERIFY2(QTest::qWaitFor([&] { return read.count() > 0; }), qPrintable(step.failure("to be read"_s, "nothing"_s)));
         } else if (verb == "<"_s) {
-            QVERIFY(QTest::qWaitFor([&] { return client.bytesAvailable() >= bytes.size(); }));
-            QCOMPARE(client.read(bytes.size()).toHex(' '), bytes.toHex(' '));
+            (void)QTest::qWaitFor([&] { return client.bytesAvailable() >= bytes.size(); });
+            const QByteArray answer = client.read(bytes.size());
+            QVERIFY2(answer == bytes,
+                     qPrintable(step.failure(QString::fromLatin1(bytes.toHex(' ')), QString::fromLatin1(answer.toHex(' ')))));
+        } else if (verb == "read"_s || verb == "written"_s) {
+            const QString report = reports->isEmpty() ? "nothing"_s : reports->takeFirst();
+            QVERIFY2(report == step.text, qPrintable(step.failure(step.text, report)));
         } else if (verb == "!"_s) {
-            QTest::ignoreMessage(QtWarningMsg, qPrintable(rest));
+            expectMessage(step);
         } else if (verb == "swing"_s) {
             auto *swing = device->findChild<QAbstractAnimation *>();
-            swing->setCurrentTime(rest.toInt());
+            swing->setCurrentTime(step.rest().toInt());
             swing->pause();
         } else {
-            const auto number = static_cast<int>(rest.toUInt(nullptr, 0));
-            QVERIFY(QMetaObject::invokeMethod(device, qPrintable(verb), rest.isEmpty() ? QGenericArgument() : Q_ARG(int, number)));
+            const auto number = static_cast<int>(step.rest().toUInt(nullptr, 0));
+            const bool isCalled =
+                QMetaObject::invokeMethod(device, qPrintable(verb), step.rest().isEmpty() ? QGenericArgument() : Q_ARG(int, number));
+            QVERIFY2(isCalled, qPrintable(step.failure("a slot"_s, "none"_s)));
         }
     }
-    QCOMPARE(client.bytesAvailable(), 0);
+    QCOMPARE(client.readAll().toHex(' '), QByteArray());
+    QCOMPARE(*reports, QStringList());
 }

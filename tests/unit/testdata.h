@@ -9,38 +9,101 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <algorithm>
+
 // "text"_s is a QString.
 inline QString operator""_s(const char *utf8, std::size_t size)
 {
     return QString::fromUtf8(utf8, static_cast<int>(size));
 }
 
-inline QStringList dataLines(const char *name)
+// A line of a file: "device.txt:12" and its text.
+struct DataLine
+{
+    QString place;
+    QString text;
+    QString verb() const { return text.section(u' ', 0, 0); }
+    QString rest() const { return text.section(u' ', 1); }
+    // What to say when something else than expected came of it.
+    QString failure(const QString &expected, const QString &actual) const
+    {
+        return QStringList({place, "step:     "_s + text, "expected: "_s + expected, "actual:   "_s + actual}).join("\n   "_s);
+    }
+};
+Q_DECLARE_METATYPE(DataLine)
+
+inline QList<DataLine> placedLines(const char *name)
 {
     QFile file(QStringLiteral(TEST_DATA "/") + QLatin1String(name));
     if (!file.open(QIODevice::ReadOnly)) {
         qFatal("No test data %s", name);
     }
-    const QString text = QString::fromUtf8(file.readAll());
-    return QString(text).remove(QRegularExpression("(^| +)#.*$"_s, QRegularExpression::MultilineOption)).split(u'\n', Qt::SkipEmptyParts);
+    QList<DataLine> lines;
+    int number = 0;
+    for (const QString &line : QString::fromUtf8(file.readAll()).split(u'\n')) {
+        const QString text = QString(line).remove(QRegularExpression("(^| +)#.*$"_s));
+        ++number;
+        if (!text.isEmpty()) {
+            lines += {"%1:%2"_s.arg(QLatin1String(name)).arg(number), text};
+        }
+    }
+    return lines;
 }
 
-// Each line is a row of fields between "|".
+inline QStringList dataLines(const char *name)
+{
+    QStringList texts;
+    for (const DataLine &line : placedLines(name)) {
+        texts += line.text;
+    }
+    return texts;
+}
+
+// The fields of a line between "|".
+inline QStringList fields(const QString &line)
+{
+    return line.split(QRegularExpression(" *\\| *"_s));
+}
+
 inline QList<QStringList> dataTable(const char *name)
 {
     QList<QStringList> rows;
     for (const QString &line : dataLines(name)) {
-        rows += line.split(QRegularExpression(" *\\| *"_s));
+        rows += fields(line);
     }
     return rows;
+}
+
+// Adds each line as a test row with a column of "fields".
+inline void addTable(const char *name)
+{
+    QTest::addColumn<QStringList>("fields");
+    for (const DataLine &line : placedLines(name)) {
+        QTest::newRow(qPrintable(line.place)) << fields(line.text);
+    }
 }
 
 // Adds test rows with a column of "steps": a line names a row, and the indented lines below it are the steps.
 inline void addRows(const char *name)
 {
-    QTest::addColumn<QStringList>("steps");
-    for (const QString &row : dataLines(name).join(u'\n').split(QRegularExpression("\\n(?! )"_s))) {
-        const QStringList lines = row.split(QRegularExpression("\\n +"_s));
-        QTest::newRow(qPrintable(lines.first())) << QStringList(lines.mid(1));
+    QTest::addColumn<QList<DataLine>>("steps");
+    const QList<DataLine> lines = placedLines(name);
+    const auto isTitle = [](const DataLine &line) { return !line.text.startsWith(u' '); };
+    for (auto title = lines.begin(); title != lines.end();) {
+        const auto next = std::find_if(title + 1, lines.end(), isTitle);
+        QList<DataLine> steps;
+        std::transform(title + 1, next, std::back_inserter(steps), [](const DataLine &line) {
+            return DataLine{line.place, line.text.trimmed()};
+        });
+        QTest::newRow(qPrintable(title->text)) << steps;
+        title = next;
     }
+}
+
+// "! warning TEXT" in any table, or critical: the next step logs it.
+inline void expectMessage(const DataLine &step)
+{
+    const QString type = step.rest().section(u' ', 0, 0);
+    QVERIFY2(type == "warning"_s || type == "critical"_s, qPrintable(step.failure("warning or critical"_s, type)));
+    QTest::ignoreMessage(type == "warning"_s ? QtWarningMsg : QtCriticalMsg, qPrintable(step.rest().section(u' ', 1)));
 }

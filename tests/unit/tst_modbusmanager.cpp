@@ -31,8 +31,9 @@ private slots:
     void conversations_data() { addRows("device.txt"); }
     void conversations()
     {
-        QFETCH(QStringList, steps);
-        play(steps, *m_client, m_manager);
+        QFETCH(QList<DataLine>, steps);
+        QStringList reports; // none, the manager keeps them to itself
+        play(steps, *m_client, m_manager, &reports);
     }
 
     void properties()

@@ -36,14 +36,14 @@ private slots:
         QCOMPARE(SystemHelper::getIdentifier(), first);
     }
 
+    void userAndComputerName_data() { addTable("users.txt"); }
     void userAndComputerName()
     {
-        for (const QStringList &row : dataTable("users.txt")) {
-            qputenv("USERNAME", row.at(0).toLatin1());
-            qputenv("CLIENTNAME", row.at(1).toLatin1());
-            qputenv("COMPUTERNAME", row.at(2).toLatin1());
-            QCOMPARE(SystemHelper::userAndComputerName(), row.at(3));
-        }
+        QFETCH(QStringList, fields);
+        qputenv("USERNAME", fields.at(0).toLatin1());
+        qputenv("CLIENTNAME", fields.at(1).toLatin1());
+        qputenv("COMPUTERNAME", fields.at(2).toLatin1());
+        QCOMPARE(SystemHelper::userAndComputerName(), fields.at(3));
     }
 
 #ifdef Q_OS_WIN // in the test's own installation of it

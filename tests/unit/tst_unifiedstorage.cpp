@@ -45,7 +45,8 @@ private slots:
         const QSignalSpy saved(&m_storage, SIGNAL(snapshotSaved(QString)));
         QFile file(m_path);
         std::atomic<qint64> sizeWhenSaved = 0;
-        connect(&m_storage, &UnifiedStorage::snapshotSaved, &file, [&] { sizeWhenSaved = file.size(); }, Qt::DirectConnection);
+        connect(
+            &m_storage, &UnifiedStorage::snapshotSaved, &file, [&] { sizeWhenSaved = file.size(); }, Qt::DirectConnection);
         m_storage.saveSnapshot(m_path);
         QTRY_COMPARE(saved.value(0).value(0).toString(), m_path);
         QCOMPARE(sizeWhenSaved.load(), file.size());
