@@ -24,7 +24,7 @@ public:
             setReadBufferSize(receiveBufferSize);
         }
         connectToHost(QStringLiteral("127.0.0.1"), port);
-        if (!QTest::qWaitFor([this] { return state() == ConnectedState; })) {
+        if (!waitForConnected()) {
             qFatal("No connection to port %d", port);
         }
     }
@@ -33,8 +33,14 @@ public:
     QByteArray exchange(const QByteArray &request, int answerSize)
     {
         write(QByteArray::fromHex(request));
-        while (bytesAvailable() < answerSize && QSignalSpy(this, &QTcpSocket::readyRead).wait()) { }
+        waitFor(answerSize);
         return readAll();
+    }
+
+    // Until so many bytes are there; no longer than 5 s without any.
+    void waitFor(int size)
+    {
+        while (bytesAvailable() < size && QSignalSpy(this, &QTcpSocket::readyRead).wait()) { }
     }
 
     // Data of the answer to one request.
@@ -57,11 +63,11 @@ inline void play(const QList<DataLine> &steps, ModbusClient &client, QObject *de
         const QString verb = step.verb();
         const QByteArray bytes = QByteArray::fromHex(step.rest().toLatin1());
         if (verb == ">"_s) {
-            const QSignalSpy read(device->findChild<ModbusConnections *>(), &ModbusConnections::requestReceived);
+            QSignalSpy read(device->findChild<ModbusConnections *>(), &ModbusConnections::requestReceived);
             client.write(bytes);
-            QVERIFY2(QTest::qWaitFor([&] { return read.count() > 0; }), qPrintable(step.failure("to be read"_s, "nothing"_s)));
+            QVERIFY2(read.wait(), qPrintable(step.failure("to be read"_s, "nothing"_s)));
         } else if (verb == "<"_s) {
-            (void)QTest::qWaitFor([&] { return client.bytesAvailable() >= bytes.size(); });
+            client.waitFor(bytes.size());
             const QByteArray answer = client.read(bytes.size());
             QVERIFY2(answer == bytes,
                      qPrintable(step.failure(QString::fromLatin1(bytes.toHex(' ')), QString::fromLatin1(answer.toHex(' ')))));
