@@ -70,6 +70,8 @@ class Torture(harness.TestCase):
                 (disk("-o size=4k", "head -c 4096 /dev/zero >filler"), no_cache, True),
                 (disk("", f'mkdir "{CONFIGURATION}/sn_cache"'), unreadable, True),
                 (disk("", f'cd "{CONFIGURATION}"; mkfifo "${{PWD##*/}}.json"; ln -s /dev/zero sn_cache'), special, True)]:
+            if harness.WINDOWS and line == special:
+                continue  # where files are not special
             with self.subTest(line):
                 with cause:
                     self.check_one_run(served).wait_for_log(line)
@@ -136,6 +138,7 @@ class Torture(harness.TestCase):
         stalls.measure(stalls.NEIGHBOURS, 5)
         self.assertNotIn("Write timeout.", simulator.log())
 
+    @unittest.skipIf(harness.WINDOWS, "knows no signals")
     def test_terminated_during_start_up(self):
         path = os.path.join(os.environ["HOME"], "RavelMonitorOrbisSimulator")
         with socket.socket(socket.AF_UNIX) as listener, socket.socket(socket.AF_UNIX) as only_place:
@@ -147,6 +150,7 @@ class Torture(harness.TestCase):
             simulator.process.terminate()
             self.assertEqual(simulator.process.wait(harness.DEADLINE / 2), -signal.SIGTERM)
 
+    @unittest.skipIf(harness.WINDOWS, "knows no signals")
     def test_signals(self):
         """Started as in trap '' INT; simulator | reader"""
         previous = signal.signal(signal.SIGINT, signal.SIG_IGN)
@@ -174,7 +178,7 @@ class Torture(harness.TestCase):
                 time.sleep(0.01)
 
         with self.subTest("connections that come and go"):
-            descriptors = f"/proc/{simulator.process.pid}/fd"
+            descriptors = f"/proc/{simulator.process.pid}/fd"  # under Wine only those of "launch"
             before = len(os.listdir(descriptors))
             for _ in range(200):
                 with harness.connect() as guest:
