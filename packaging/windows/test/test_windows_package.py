@@ -44,6 +44,11 @@ def windows():
     return subprocess.run("xwininfo -root -tree".split(), capture_output=True, text=True, check=False).stdout
 
 
+def window_width():
+    found = re.search(r'Simulator - Pelmora".* (\d+)x\d+\+', windows())
+    return found and int(found[1])
+
+
 def colours_on_screen():
     return int(subprocess.check_output("import -window root -format %k info:".split()))
 
@@ -94,6 +99,15 @@ class Package(unittest.TestCase):
         self.assertFalse(INSTALLED.parent.exists())
         self.assertFalse(START_MENU_ENTRY.exists())
         self.assertEqual(IDENTITY.read_text(encoding="utf-8"), "THE SAME DEVICE")
+
+    def test_scaled_desktop(self):
+        widths = []
+        for resolution in ("192", "96"):
+            run("reg", "add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t", "REG_DWORD", "/d", resolution, "/f")
+            simulator = self.start(PROGRAM)
+            widths.append(harness.wait_until(window_width, "the window"))
+            simulator.stop()
+        self.assertAlmostEqual(widths[0] / widths[1], 2, delta=0.1)
 
     def test_double_click(self):
         """The console that Windows opens with the program is minimised to its title bar; a click selects no text there."""
