@@ -23,7 +23,7 @@ test:
 	@$(MAKE) --no-print-directory build PRESET=$(PRESET)
 	ctest --test-dir build-$(PRESET) --output-on-failure --no-tests=error
 
-# The same system tests, with the packaged Windows program under Wine. Qt for Windows comes from the archive that
+# The same tests of the Windows program, as its package brings it, under Wine. Qt for Windows comes from the archive that
 # QT_WINDOWS_ARCHIVE names, or is built once from the distribution's sources.
 test-windows:
 	scripts/test-windows
