@@ -135,7 +135,7 @@ private slots:
         }
     }
 
-#ifndef Q_OS_WIN // which sets no such limit
+#ifndef Q_OS_WIN
     // With 64 descriptors 16 are the channel's and 32 the rest of the program's.
     void placesAreFew()
     {
@@ -161,6 +161,19 @@ private slots:
             ModbusClient guest(port());
             QCOMPARE(guest.exchange(request, m_answer.size()), m_answer);
         }
+    }
+
+    // A read stops where urgent data was.
+    void endsAfterUrgentData()
+    {
+        ModbusClient master(port());
+        m_answer.clear();
+        for (const int flags : {0, static_cast<int>(MSG_OOB), 0}) {
+            QVERIFY(::send(static_cast<int>(master.socketDescriptor()), "x", 1, flags) == 1);
+        }
+        master.close();
+        QTRY_COMPARE(m_received.size(), 2);
+        QTRY_VERIFY(sockets().isEmpty());
     }
 #endif
 

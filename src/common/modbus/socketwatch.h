@@ -35,7 +35,8 @@ signals:
     void held(QAbstractSocket *socket);
 
     // Something has arrived, be it the end of the connection, and an answer would be taken at once. Emitted
-    // once for what has arrived, whether the receiver reads it or not, and once more for the end.
+    // once for what has arrived, whether the receiver reads it or not, and twice more with the end: a read
+    // takes what has arrived, but stops at urgent data.
     void ready(QAbstractSocket *socket);
 
 private:

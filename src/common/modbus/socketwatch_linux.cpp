@@ -18,6 +18,10 @@ namespace {
 // the window and new masters get theirs.
 constexpr int socketsPerTurn = 64;
 
+// One may take what came before urgent data, another what came after it, the last one the end of the
+// connection.
+constexpr int readsToTheEnd = 3;
+
 } // namespace
 
 bool SocketWatch::hasRoomForAnswer(const QAbstractSocket &socket)
@@ -81,9 +85,8 @@ void SocketWatch::deliver()
     const int count = epoll_wait(m_epoll, events.data(), socketsPerTurn, 0);
     for (int i = 0; i < count; ++i) {
         const epoll_event &event = events.at(static_cast<std::size_t>(i));
-        deliver(event.data.fd, event.events);
-        // One read may have taken the last request, another takes the end of the connection.
-        if ((event.events & EPOLLRDHUP) != 0) {
+        const int reads = (event.events & EPOLLRDHUP) != 0 ? readsToTheEnd : 1;
+        for (int read = 0; read < reads; ++read) {
             deliver(event.data.fd, event.events);
         }
     }
