@@ -72,6 +72,7 @@ void ModbusConnections::incomingConnection(qintptr descriptor)
     qCDebug(lcModbus) << "Modbus master" << master->peerAddress().toString() << "connected.";
     connect(master, &QObject::destroyed, this, [this, master] {
         m_jammed.remove(master);
+        m_waiting.remove(master);
         --m_masters;
         acceptFurther();
     });
@@ -134,7 +135,7 @@ void ModbusConnections::serve(QAbstractSocket *master)
         m_jammed.insert(master);
         return;
     }
-    if (master->state() != QAbstractSocket::ConnectedState || isWaiting(master)) {
+    if (master->state() != QAbstractSocket::ConnectedState || m_waiting.contains(master)) {
         return;
     }
     m_buffer.resize(readSize);
@@ -154,18 +155,13 @@ void ModbusConnections::serve(QAbstractSocket *master)
     }
     if (size > 0 && m_takesLong(m_buffer)) {
         m_longRequests.enqueue({master, QByteArray(m_buffer.constData(), m_buffer.size())});
+        m_waiting.insert(master);
         if (!m_longRequestTimer.isActive()) {
             m_longRequestTimer.start(0);
         }
     } else if (size > 0) {
         handOver(master, QByteArray(m_buffer)); // a copy, as a receiver may run an event loop
     }
-}
-
-bool ModbusConnections::isWaiting(const QAbstractSocket *master) const
-{
-    return std::any_of(m_longRequests.cbegin(), m_longRequests.cend(),
-                       [master](const LongRequest &request) { return request.master == master; });
 }
 
 // However many are queued, other masters get half of the time.
@@ -175,6 +171,7 @@ void ModbusConnections::handOverLongRequest()
         return;
     }
     const LongRequest request = m_longRequests.dequeue();
+    m_waiting.remove(request.master);
     QElapsedTimer duration;
     duration.start();
     if (request.master && request.master->isValid()) {

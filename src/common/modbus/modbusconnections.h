@@ -53,7 +53,6 @@ private:
     void scheduleRestart();
     void restart();
     void serve(QAbstractSocket *master);
-    bool isWaiting(const QAbstractSocket *master) const;
     void handOverLongRequest();
     void handOver(QAbstractSocket *master, const QByteArray &bytes);
     void waitUntilFetched(QAbstractSocket *master);
@@ -66,7 +65,8 @@ private:
     };
 
     const Predicate m_takesLong;
-    QQueue<LongRequest> m_longRequests; // one of each master at the most
+    QQueue<LongRequest> m_longRequests;
+    QSet<const QObject *> m_waiting; // whose request is among them
     QTimer m_longRequestTimer;
     SocketWatch *const m_watch;
     const int m_maximumMasters;
