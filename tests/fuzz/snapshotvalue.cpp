@@ -9,7 +9,8 @@
 // One "binary://" value of the settings, freed from its Base64; what was read can be written again.
 static void fuzz(const QByteArray &input)
 {
-    if (const auto value = readSnapshotValue(input)) {
+    double budget = snapshotBudget;
+    if (const auto value = readSnapshotValue(input, budget)) {
         QByteArray bytes;
         QDataStream stream(&bytes, QIODevice::WriteOnly);
         stream << *value;

@@ -21,6 +21,12 @@ static QByteArray streamed(const QVariant &value)
     return bytes;
 }
 
+static std::optional<QVariant> readValue(const QByteArray &bytes)
+{
+    double budget = snapshotBudget;
+    return readSnapshotValue(bytes, budget);
+}
+
 class TestUnifiedStorage : public QObject
 {
     Q_OBJECT
@@ -42,6 +48,8 @@ private slots:
         m_storage.store("/integer"_s, 5);
         m_storage.store("/long long"_s, Q_INT64_C(-9));
         m_storage.store("/texts"_s, QStringList("k"_s));
+        m_storage.store("/pointer"_s, QVariant::fromValue<void *>(nullptr));
+        QTest::ignoreMessage(QtWarningMsg, "Snapshot key \"/pointer\" cannot be saved.");
         const QSignalSpy saved(&m_storage, SIGNAL(snapshotSaved(QString)));
         QFile file(m_path);
         std::atomic<qint64> sizeWhenSaved = 0;
@@ -54,12 +62,38 @@ private slots:
         QCOMPARE(QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts), dataLines("snapshot.json"));
     }
 
+    void typesOfQtGui()
+    {
+        QImage image(2, 3, QImage::Format_ARGB32);
+        image.fill(Qt::blue);
+        image.setText("k"_s, "v"_s.repeated(60));
+        const QPixmap pixmap = QPixmap::fromImage(image);
+        const QPen pen(QBrush(QRadialGradient(1, 2, 3)), 3, Qt::DashLine);
+        QTextCharFormat format;
+        format.setTextOutline(pen);
+        QEasingCurve spline(QEasingCurve::BezierSpline);
+        spline.addCubicBezierSegment({0.1, 0.2}, {0.3, 0.4}, {1, 1});
+        QVariantList values{image, QImage(), pixmap, QBrush(image), pen, format, QPalette(Qt::red), QIcon(pixmap), QCursor(pixmap)};
+        values << QCursor(Qt::WaitCursor) << QPolygon(QRect(1, -2, 3, 4)) << QTransform() << QVector2D(1, 2) << QJsonValue("x"_s);
+        values << QEasingCurve(QEasingCurve::InOutQuad) << QEasingCurve(QEasingCurve::InElastic) << spline;
+        values << QRegExp("(\\d{1,3}\\.){3}\\d{1,3}|(a{1,3}b{1,3}){5}"_s);
+        for (const QVariant &value : values) {
+            const QByteArray bytes = streamed(QVariantHash{{"k"_s, value}});
+            QCOMPARE(streamed(readValue(bytes).value_or("none"_s)), bytes);
+        }
+    }
+
     void hostileBytes()
     {
         for (const QStringList &row : dataTable("snapshotvalues.txt")) {
-            QVERIFY2(!readSnapshotValue(QByteArray::fromHex(row.at(0).toLatin1())), qPrintable(row.at(1)));
+            QVERIFY2(!readValue(QByteArray::fromHex(row.at(0).toLatin1())), qPrintable(row.at(1)));
         }
-        QVERIFY(!readSnapshotValue(QByteArray::fromHex("0000002900").repeated(100000) + streamed(5))); // nested
+        QImage large(3000, 3000, QImage::Format_Mono);
+        large.fill(0);
+        QVERIFY(!readValue(streamed(large)));
+        const QByteArray foreignAddress = QByteArray::fromHex("0000001D0003414141414141414100");
+        QCOMPARE(streamed(*readValue(foreignAddress)), streamed(QEasingCurve(QEasingCurve::InOutQuad)));
+        QVERIFY(!readValue(QByteArray::fromHex("0000002900").repeated(100000) + streamed(5))); // nested
     }
 
     void malformedMembers()
@@ -68,9 +102,12 @@ private slots:
         for (const QByteArray &name :
              QByteArrayList{"no scheme", "NATIVE:///a", "mapped:///a", "mapped:///a?QPoint", "mapped:///a??QSize", nested, "binary:///a"}) {
             QTest::ignoreMessage(QtWarningMsg, ("Snapshot key \"" + name + "\" is malformed.").constData());
-            load("{'" + name + "': 'AAAAAgAAAAA*BQ==', 'native:///n': [1], 'mapped:///s?QSize?': {'width': 1e300}}");
+            load("{'" + name
+                 + "': 'AAAAAgAAAAA*', 'binary:///wrapped': 'AAAAAgAA\\nAAAF', 'native:///n': [1], "
+                   "'mapped:///s?QSize?': {'width': 1e300}}");
             QCOMPARE(value("/n"_s), QVariant(QVariantList{1.0}));
             QCOMPARE(value("/s"_s), QVariant(QSize(0, 0)));
+            QCOMPARE(value("/wrapped"_s), QVariant(5));
         }
     }
 
@@ -161,5 +198,5 @@ private:
     UnifiedStorage m_storage;
 };
 
-QTEST_GUILESS_MAIN(TestUnifiedStorage)
+QTEST_MAIN(TestUnifiedStorage)
 #include "tst_unifiedstorage.moc"

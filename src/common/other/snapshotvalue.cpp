@@ -3,104 +3,78 @@
 
 #include "common/other/snapshotvalue.h"
 
+#include <QBrush>
 #include <QBuffer>
 #include <QDataStream>
-#include <QLocale>
-#include <QRegExp>
+#include <QDateTime>
+#include <QEasingCurve>
+#include <QGuiApplication>
+#include <QPalette>
+#include <QPixmap>
 #include <QRegularExpression>
 #include <QTimeZone>
 
 #include <algorithm>
-#include <limits>
 #include <new>
 
 namespace {
 
 constexpr int maxDepth = 100;
 
-// Counted from the Julian epoch, to either side. QDateTime computes in 64 bits of milliseconds, which hold a
-// little more than these 270 million years.
-constexpr qint64 maxDateTimeDay = 100'000'000'000;
-constexpr qint64 nullDay = std::numeric_limits<qint64>::min();
+// Each of these uses up the whole budget of a snapshot.
+constexpr double maxPictureMemory = 32.0 * 1024 * 1024; // a 4K picture; read in 0.2 s
+constexpr double maxPatternSize = 1200; // QRegExp needs some 50 ms, with the cube of the size
+constexpr double maxGradientStops = 100000; // inserted one by one in 0.1 s, with the square of the number
 
-// QDateTime and QTimeZone multiply offsets to milliseconds in an int.
-constexpr int maxOffsetSeconds = std::numeric_limits<int>::max() / 1000;
+// Deflate's best compression.
+constexpr double maxInflation = 1032;
 
-// QRegExp builds its automaton as soon as it is read, in time that grows with the cube of the pattern's
-// length after repetitions are written out: some 50 ms at this limit, most of a minute at ten times as much.
-constexpr double maxPatternCost = 1200;
-
-bool isCheap(const QString &pattern)
+// Characters of a pattern after repetitions are written out: a number behind a group may repeat all of it,
+// any other a single character.
+double expandedSize(const QString &pattern)
 {
-    static const QRegularExpression repetition(QStringLiteral("[{,]([0-9]+)"));
-    double cost = pattern.size();
-    for (auto match = repetition.globalMatch(pattern); match.hasNext() && cost <= maxPatternCost;) {
-        cost *= std::max(1.0, match.next().captured(1).toDouble());
+    static const QRegularExpression repetition(QStringLiteral("([)}*+?]?)\\{([0-9]*),?([0-9]*)"));
+    // Nothing matches in a text with half a surrogate pair. The size is given because of zero characters.
+    const QByteArray latin1 = pattern.toLatin1();
+    const auto text = QString::fromLatin1(latin1.constData(), latin1.size());
+    double size = text.size();
+    double factor = 1;
+    for (auto match = repetition.globalMatch(text); match.hasNext() && size * factor <= maxPatternSize;) {
+        const auto found = match.next();
+        const double count = std::max({1.0, found.captured(2).toDouble(), found.captured(3).toDouble()});
+        if (found.captured(1).isEmpty()) {
+            size += count;
+        } else {
+            factor *= count;
+        }
     }
-    return cost <= maxPatternCost;
+    return size * factor;
 }
 
 // Time zone identifiers name files below the zone database; this keeps them there.
 bool isZoneId(const QString &id)
 {
-    static const QRegularExpression shape(QStringLiteral("\\A[A-Za-z0-9_+-][A-Za-z0-9_+:/-]*\\z"));
+    static const QRegularExpression shape(QStringLiteral("\\A[A-Za-z0-9_+:/-]+\\z"));
     return shape.match(id).hasMatch();
 }
 
-// Size of the types that always take the same number of bytes; -1 for all others.
-int fixedSize(quint32 type)
-{
-    switch (type) {
-    case QMetaType::UnknownType:
-    case QMetaType::Nullptr:
-        return 0;
-    case QMetaType::Bool:
-    case QMetaType::Char:
-    case QMetaType::SChar:
-    case QMetaType::UChar:
-        return 1;
-    case QMetaType::QChar:
-    case QMetaType::Short:
-    case QMetaType::UShort:
-        return 2;
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::QTime:
-        return 4;
-    case QMetaType::Long:
-    case QMetaType::ULong:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Double:
-    case QMetaType::Float: // streams widen it to a double
-    case QMetaType::QDate:
-    case QMetaType::QPoint:
-    case QMetaType::QSize:
-        return 8;
-    case QMetaType::QLine:
-    case QMetaType::QPointF:
-    case QMetaType::QRect:
-    case QMetaType::QSizeF:
-    case QMetaType::QUuid:
-        return 16;
-    case QMetaType::QLineF:
-    case QMetaType::QRectF:
-        return 32;
-    default:
-        return -1;
-    }
-}
-
-// Walks over the bytes of one value without building it. A failure stays in the stream's status.
-class ValueChecker
+// Walks over the bytes of one value: checks what Qt would take on trust, then has Qt read that part, so that
+// both are at the same place whatever the bytes are. A failure stays in the stream's status, and ends all
+// reading.
+class ValueReader
 {
 public:
-    explicit ValueChecker(const QByteArray &bytes) : m_stream(bytes) { }
+    ValueReader(const QByteArray &bytes, double &budget) : m_bytes(bytes), m_budget(budget)
+    {
+        m_buffer.open(QIODevice::ReadOnly);
+    }
 
-    bool check()
+    std::optional<QVariant> read()
     {
         checkValue(0);
-        return isOk();
+        m_buffer.seek(0);
+        auto value = take<QVariant>();
+        return isOk() ? std::make_optional(std::move(value)) : std::nullopt;
     }
 
 private:
@@ -113,11 +87,19 @@ private:
         }
     }
 
+    void spend(double share)
+    {
+        require(share <= m_budget);
+        if (isOk()) {
+            m_budget -= share;
+        }
+    }
+
     void skip(qint64 size)
     {
-        require(size <= m_stream.device()->bytesAvailable());
+        require(size <= m_buffer.bytesAvailable());
         if (isOk()) {
-            m_stream.skipRawData(static_cast<int>(size));
+            m_buffer.seek(m_buffer.pos() + size);
         }
     }
 
@@ -127,11 +109,15 @@ private:
     T take()
     {
         T value{};
-        m_stream >> value;
+        if (isOk()) {
+            m_stream >> value;
+        }
         return value;
     }
 
-    // Every element takes bytes of its own, so a false count fails at the end of the data.
+    // Qt reserves memory for as many elements as the count says. None takes less than 4 bytes.
+    void checkCount() { require(take<quint32>() <= m_buffer.bytesAvailable() / 4); }
+
     template <typename CheckElement>
     void checkElements(CheckElement checkElement)
     {
@@ -141,178 +127,223 @@ private:
     }
 
     void checkValue(int depth);
-    void checkContent(quint32 type, int depth);
     void checkDateTime();
-    void checkTimeZone();
-    void checkTimeZoneShape();
-    void checkOffset();
-    void checkRegExp();
-    void checkFont();
+    void checkEasingCurve();
+    void checkBrush();
+    void checkCursor();
+    void checkIcon();
+    double takePictureMemory();
+    QPixmap takePicture();
 
-    QDataStream m_stream;
+    QByteArray m_bytes;
+    QBuffer m_buffer{&m_bytes};
+    QDataStream m_stream{&m_buffer};
+    double &m_budget;
 };
 
-void ValueChecker::checkValue(int depth)
+void ValueReader::checkValue(int depth)
 {
+    const qint64 start = m_buffer.pos();
     require(depth <= maxDepth);
     const auto type = take<quint32>();
-    skip(1); // whether the value is null
-    if (!isOk()) {
-        return;
-    }
-    const int size = fixedSize(type);
-    if (size < 0) {
-        checkContent(type, depth);
-    } else {
-        skip(size);
-    }
-}
-
-void ValueChecker::checkContent(quint32 type, int depth)
-{
+    take<qint8>(); // whether the value is null
+    require(type < QMetaType::User);
     switch (type) {
-    case QMetaType::QString:
-    case QMetaType::QLocale:
-        take<QString>();
-        break;
-    case QMetaType::QByteArray:
-    case QMetaType::QUrl:
-    case QMetaType::QJsonArray:
-    case QMetaType::QJsonDocument:
-    case QMetaType::QJsonObject:
-        take<QByteArray>();
-        break;
-    case QMetaType::QBitArray:
-        skip((qint64{take<quint32>()} + 7) / 8);
-        break;
-    case QMetaType::QStringList:
-        checkElements([this] { take<QString>(); });
-        break;
-    case QMetaType::QByteArrayList:
-        checkElements([this] { take<QByteArray>(); });
-        break;
-    case QMetaType::QKeySequence:
-        checkElements([this] { take<qint32>(); });
-        break;
+    case QMetaType::QVariant:
+        checkValue(depth + 1);
+        return;
     case QMetaType::QVariantList:
         checkElements([this, depth] { checkValue(depth + 1); });
-        break;
+        return;
     case QMetaType::QVariantMap:
     case QMetaType::QVariantHash:
         checkElements([this, depth] {
             take<QString>();
             checkValue(depth + 1);
         });
+        return;
+    case QMetaType::QTextFormat:
+        take<qint32>();
+        checkElements([this, depth] {
+            take<qint32>();
+            checkValue(depth + 1);
+        });
+        return;
+    case QMetaType::QPalette:
+        for (int i = 0; i < int{QPalette::NColorGroups} * QPalette::NColorRoles; ++i) {
+            checkBrush();
+        }
+        return;
+    case QMetaType::QImage:
+    case QMetaType::QPixmap:
+    case QMetaType::QBitmap:
+        takePicture();
+        return;
+    case QMetaType::QIcon:
+        checkIcon();
+        return;
+    case QMetaType::QBitArray:
+        require(take<quint32>() / 8 <= m_buffer.bytesAvailable());
         break;
-    case QMetaType::QVariant:
-        checkValue(depth + 1);
+    case QMetaType::QStringList:
+    case QMetaType::QByteArrayList:
+    case QMetaType::QKeySequence:
+    case QMetaType::QPolygon:
+    case QMetaType::QPolygonF:
+        checkCount();
         break;
-    case QMetaType::QColor:
-        require(take<quint8>() <= 5); // models from Invalid to ExtendedRgb
-        skip(10);
+    case QMetaType::QFont:
+        take<QString>(); // family
+        take<QString>(); // style name
+        skip(31); // sizes, weight, spacing and hints
+        checkCount(); // families
+        break;
+    case QMetaType::QPen:
+        skip(11); // style and width
+        checkBrush();
+        skip(8); // miter limit
+        checkCount(); // dashes
+        break;
+    case QMetaType::QRegExp: { // builds its automaton when it is read, its memory grows with the square
+        const double share = expandedSize(take<QString>()) / maxPatternSize;
+        spend(share * share);
+        break;
+    }
+    case QMetaType::QBrush:
+        checkBrush();
+        return;
+    case QMetaType::QCursor:
+        checkCursor();
         break;
     case QMetaType::QDateTime:
         checkDateTime();
+        return;
+    case QMetaType::QEasingCurve:
+        checkEasingCurve();
         break;
-    case QMetaType::QFont:
-        checkFont();
-        break;
-    case QMetaType::QRegExp:
-        checkRegExp();
-        break;
-    case QMetaType::QRegularExpression: // compiled on first use only
-        take<QString>();
-        skip(4);
-        break;
-    default:
+    case QMetaType::QRegion: // united rectangle by rectangle
         require(false);
+        return;
+    default: // of fixed size, or read as far as the bytes go
+        break;
     }
+    m_buffer.seek(start);
+    take<QVariant>();
 }
 
-void ValueChecker::checkDateTime()
+void ValueReader::checkDateTime()
 {
-    const auto day = take<qint64>();
-    require(day == nullDay || (day >= -maxDateTimeDay && day <= maxDateTimeDay));
-    skip(4);
-    switch (take<qint8>()) {
-    case Qt::LocalTime:
-    case Qt::UTC:
-        break;
-    case Qt::OffsetFromUTC:
-        checkOffset();
-        break;
-    case Qt::TimeZone:
-        checkTimeZone();
-        break;
-    default:
-        require(false);
-    }
+    const qint64 start = m_buffer.pos();
+    skip(12); // day and time
+    const auto spec = take<quint8>();
+    require(spec < Qt::TimeZone || (spec == Qt::TimeZone && isZoneId(take<QString>())));
+    m_buffer.seek(start);
+    // A date-time in a zone that this machine does not know cannot even be written again without a crash.
+    const auto moment = take<QDateTime>();
+    require(spec != Qt::TimeZone || moment.timeZone().isValid());
 }
 
-void ValueChecker::checkTimeZone()
+// The address of the curve's function is in the bytes, and was right in the process that wrote them.
+void ValueReader::checkEasingCurve()
 {
-    const qint64 start = m_stream.device()->pos();
-    checkTimeZoneShape();
+    const auto type = take<quint8>();
+    require(type < QEasingCurve::Custom);
+    const auto addressPosition = static_cast<int>(m_buffer.pos());
+    skip(sizeof(quint64));
     if (isOk()) {
-        // A date-time in a zone that this machine does not know cannot even be written again without a crash.
-        m_stream.device()->seek(start);
-        require(take<QTimeZone>().isValid());
+        QByteArray curve;
+        QDataStream stream(&curve, QIODevice::WriteOnly);
+        stream << QEasingCurve(static_cast<QEasingCurve::Type>(type));
+        m_bytes.replace(addressPosition, sizeof(quint64), curve.mid(1, sizeof(quint64)));
+    }
+    if (take<bool>()) {
+        skip(24); // period, amplitude, overshoot
+        checkElements([this] { skip(16); }); // points of a Bezier spline
+        checkCount(); // points of a TCB spline
     }
 }
 
-void ValueChecker::checkTimeZoneShape()
+void ValueReader::checkBrush()
 {
-    const auto id = take<QString>();
-    if (id != QLatin1String("OffsetFromUtc")) {
-        require(isZoneId(id));
+    const qint64 start = m_buffer.pos();
+    const auto style = take<quint8>();
+    skip(11); // color
+    if (style == Qt::TexturePattern) {
+        takePicture();
+    } else if (style >= Qt::LinearGradientPattern && style <= Qt::ConicalGradientPattern) {
+        skip(16); // type, spread, coordinates, interpolation
+        const double share = take<quint32>() / maxGradientStops;
+        spend(share * share);
+    }
+    m_buffer.seek(start);
+    take<QBrush>();
+}
+
+void ValueReader::checkCursor()
+{
+    require(qGuiApp != nullptr);
+    if (take<qint16>() == Qt::BitmapCursor) {
+        const bool isPixmap = take<bool>();
+        takePicture();
+        if (!isPixmap) {
+            takePicture(); // mask
+        }
+    }
+}
+
+// Icons of another engine may be read by a plugin, and empty pictures from a file.
+void ValueReader::checkIcon()
+{
+    const auto engine = take<QString>();
+    if (engine.isEmpty()) {
         return;
     }
-    require(isZoneId(take<QString>()));
-    checkOffset();
-    take<QString>(); // name
-    take<QString>(); // abbreviation
-    const auto country = take<qint32>();
-    require(country >= 0 && country <= QLocale::LastCountry);
-    take<QString>(); // comment
+    require(engine == QLatin1String("QPixmapIconEngine"));
+    checkElements([this] {
+        require(!takePicture().isNull());
+        take<QString>(); // file name
+        skip(16); // size, mode, state
+    });
 }
 
-void ValueChecker::checkOffset()
+// Of a PNG, the only format that Qt writes here.
+double ValueReader::takePictureMemory()
 {
-    const auto seconds = take<qint32>();
-    require(seconds >= -maxOffsetSeconds && seconds <= maxOffsetSeconds);
+    require(take<quint64>() == Q_UINT64_C(0x89504E470D0A1A0A));
+    skip(8); // length and name of the first chunk
+    const double width = take<quint32>();
+    const double height = take<quint32>();
+    const int bytesPerPixel = take<quint8>() > 8 ? 8 : 4;
+    skip(8); // color type, methods, checksum
+    double memory = height * (width * bytesPerPixel + sizeof(void *));
+    for (QByteArray name; name != "IEND" && isOk();) {
+        const auto length = take<quint32>();
+        name = m_buffer.read(4);
+        if (name == "iCCP" || name.endsWith("TXt")) { // compressed
+            memory += maxInflation * length;
+        }
+        skip(qint64{length} + 4); // and its checksum
+    }
+    return memory;
 }
 
-void ValueChecker::checkRegExp()
+QPixmap ValueReader::takePicture()
 {
-    require(isCheap(take<QString>()));
-    require(take<quint8>() <= Qt::CaseSensitive);
-    require(take<quint8>() <= QRegExp::W3CXmlSchema11);
-    skip(1); // whether matching is minimal
-}
-
-void ValueChecker::checkFont()
-{
-    take<QString>(); // family
-    take<QString>(); // style name
-    skip(31); // sizes, weight, spacing and hints
-    checkElements([this] { take<QString>(); }); // families
+    require(qGuiApp != nullptr); // Qt ends a process without it
+    const qint64 start = m_buffer.pos();
+    if (take<qint32>() != 0) {
+        spend(takePictureMemory() / maxPictureMemory);
+    }
+    m_buffer.seek(start);
+    return take<QPixmap>();
 }
 
 } // namespace
 
-std::optional<QVariant> readSnapshotValue(const QByteArray &bytes)
+std::optional<QVariant> readSnapshotValue(const QByteArray &bytes, double &budget)
 {
     try {
-        if (!ValueChecker(bytes).check()) {
-            return std::nullopt;
-        }
-        QDataStream stream(bytes);
-        QVariant value;
-        stream >> value;
-        if (stream.status() != QDataStream::Ok) {
-            return std::nullopt;
-        }
-        return value;
+        return ValueReader(bytes, budget).read();
     } catch (const std::bad_alloc &) {
         return std::nullopt;
     }

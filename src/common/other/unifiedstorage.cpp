@@ -85,7 +85,7 @@ bool isNativeType(QVariant::Type type)
     }
 }
 
-void addMember(QVariantMap &members, const QString &key, const QVariant &value)
+void addMember(QVariantMap &members, const QString &key, const QVariant &value, double &budget)
 {
     if (UnifiedStoragePrivate::isMappedType(value.userType())) {
         // Two steps, so that placeholders in the key are filled with the type's name first.
@@ -98,6 +98,10 @@ void addMember(QVariantMap &members, const QString &key, const QVariant &value)
         QByteArray bytes;
         QDataStream stream(&bytes, QIODevice::WriteOnly);
         stream << value;
+        if (!readSnapshotValue(bytes, budget)) {
+            qCWarning(lcCore) << "Snapshot key" << key << "cannot be saved.";
+            return;
+        }
         members.insert(binaryScheme + key, QString::fromLatin1(bytes.toBase64()));
     }
 }
@@ -127,11 +131,9 @@ QVariant variantFromJson(const QJsonValue &json)
     return json.toVariant();
 }
 
-bool readBinary(const QString &key, const QJsonValue &member, QHash<QString, QVariant> &data)
+bool readBinary(const QString &key, const QJsonValue &member, QHash<QString, QVariant> &data, double &budget)
 {
-    const auto bytes =
-        QByteArray::fromBase64Encoding(member.toString().toUtf8(), QByteArray::AbortOnBase64DecodingErrors);
-    const auto value = bytes ? readSnapshotValue(*bytes) : std::nullopt;
+    const auto value = readSnapshotValue(QByteArray::fromBase64(member.toString().toUtf8()), budget);
     if (value) {
         data.insert(key, *value);
     }
@@ -153,10 +155,10 @@ bool readMapped(const QString &keyAndType, const QJsonValue &member, QHash<QStri
 
 // Adds a member's value to the data; false if the member cannot be read. The scheme's text goes from the
 // whole name: a key holds none.
-bool readMember(QString name, const QJsonValue &member, QHash<QString, QVariant> &data)
+bool readMember(QString name, const QJsonValue &member, QHash<QString, QVariant> &data, double &budget)
 {
     if (name.startsWith(binaryScheme)) {
-        return readBinary(name.remove(binaryScheme), member, data);
+        return readBinary(name.remove(binaryScheme), member, data, budget);
     }
     if (name.startsWith(mappedScheme)) {
         return readMapped(name.remove(mappedScheme), member, data);
@@ -220,8 +222,9 @@ void UnifiedStoragePrivate::writeSnapshot(const QString &path)
 {
     const QHash<QString, QVariant> data = copyData();
     QVariantMap members;
+    double budget = snapshotBudget;
     for (auto it = data.begin(); it != data.end(); ++it) {
-        addMember(members, it.key(), it.value());
+        addMember(members, it.key(), it.value(), budget);
     }
     const QJsonDocument document = QJsonDocument::fromVariant(members);
 
@@ -328,8 +331,9 @@ void UnifiedStorage::loadSnapshot(const QString &path, bool keepCurrent)
         return;
     }
 
+    double budget = snapshotBudget;
     for (auto it = members.begin(); it != members.end(); ++it) {
-        if (!readMember(it.key(), it.value(), data)) {
+        if (!readMember(it.key(), it.value(), data, budget)) {
             qCWarning(lcCore) << "Snapshot key" << it.key() << "is malformed.";
         }
     }

@@ -50,7 +50,7 @@ public slots:
 
     // Writes the snapshot on the global thread pool and returns at once. Ends in snapshotSaved() or
     // snapshotWriteError(). Values stored meanwhile may be missing from the file; of two saves to one path
-    // the last to open it wins.
+    // the last to open it wins. A value that could not be read again is left out with a warning.
     void saveSnapshot(const QString &path);
 
     // Replaces the stored values by those of the file, or adds these to the stored ones where keepCurrent is
