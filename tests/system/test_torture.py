@@ -66,7 +66,7 @@ class Torture(harness.TestCase):
         for cause, line, served in [
                 (taken(socket.SOCK_STREAM, 502), "Failed listening on port 502", False),
                 (taken(socket.SOCK_DGRAM, 45123, 45124), 'Failed binding response socket "0.0.0.0" to port 45124', True),
-                (disk("", "mount -o remount,ro ."), no_cache, True),
+                (disk("", "mount -o remount,bind,ro ."), no_cache, True),
                 (disk("-o size=4k", "head -c 4096 /dev/zero >filler"), no_cache, True),
                 (disk("", f'mkdir "{CONFIGURATION}/sn_cache"'), unreadable, True),
                 (disk("", f'cd "{CONFIGURATION}"; mkfifo "${{PWD##*/}}.json"; ln -s /dev/zero sn_cache'), special, True)]:
