@@ -51,7 +51,8 @@ class Faults:
     def __post_init__(self):
         for name, value in vars(self).items():
             kind = type(getattr(Faults, name))
-            fits = value in ("requests", "answers", "both") if name == "on" else value >= 0 and kind(value) == value
+            most = 1 if name in ("drop", "duplicate") else sys.maxsize
+            fits = value in ("requests", "answers", "both") if name == "on" else 0 <= value <= most and kind(value) == value
             if not fits:
                 raise ValueError(f"{name}: {value!r}")
 
@@ -182,11 +183,17 @@ def datagrams(card, port):
     return result
 
 
+def port_number(text):
+    if not (text.isdecimal() and int(text) < 65536):
+        raise ValueError(f"{text!r} is no port")
+    return int(text)
+
+
 def listening(text):
     if text.startswith("fd:"):
         return socket.socket(fileno=int(text[3:]))
     address, _, port = text.rpartition(":")
-    return socket.create_server((address or "127.0.0.1", int(port)), backlog=128)
+    return socket.create_server((address or "127.0.0.1", port_number(port)), backlog=128)
 
 
 async def control(links, reader, writer):
@@ -199,7 +206,7 @@ async def control(links, reader, writer):
             for name in [of] if of else links:
                 links[str(name)].faults = faults
             answer = "ok"
-        except (ValueError, TypeError, AttributeError, KeyError) as error:
+        except (ValueError, TypeError, AttributeError, KeyError, OverflowError) as error:
             answer = f"not understood: {error}"
         writer.write(f"{answer}\n".encode())
         await writer.drain()
@@ -212,7 +219,7 @@ async def run(arguments, faults):
         listen, _, device = pair.partition("=")
         host, _, port = (device or "127.0.0.1").partition(":")
         server = listening(listen)
-        links[str(server.getsockname()[1])] = link = Link((host, int(port or 502)), faults)
+        links[str(server.getsockname()[1])] = link = Link((host, port_number(port or "502")), faults)
         addresses[host] = server.getsockname()[0]
         await asyncio.start_server(link.serve, sock=server)
     if arguments.discovery:
@@ -245,6 +252,10 @@ def parse():
     arguments = parser.parse_args(own)
     arguments.command = command
     try:
+        if not arguments.pairs and not arguments.discovery:
+            raise ValueError("which PORT=DEVICE?")
+        if arguments.discovery and arguments.discovery.count("=") != 1:
+            raise ValueError("--discovery takes CARD=CARD")
         return arguments, Faults(**{option.name: getattr(arguments, option.name) for option in dataclasses.fields(Faults)})
     except ValueError as error:
         return parser.error(str(error))
@@ -255,6 +266,6 @@ if __name__ == "__main__":
         sys.exit(asyncio.run(run(*parse())))
     except KeyboardInterrupt:
         sys.exit(128 + signal.SIGINT)
-    except OSError as problem:
+    except (OSError, ValueError) as problem:
         print(f"orbis-fault-proxy: {problem}", file=sys.stderr)
         sys.exit(125)  # its own failure rather than the command's, as with env and timeout
