@@ -10,7 +10,7 @@ Device 1 has the address 192.168.4.1, the hardware address 02:00:00:00:00:01 and
 is at 192.168.7.254 and reaches nothing but the devices. Neither root nor a container engine is needed: bridge and
 devices are in private network namespaces, which end with them.
 
-ORBIS_PROGRAM, if set, is the command line that starts a simulator.
+ORBIS_PROGRAM, if set, is the command line that starts a simulator. Exit code 125: a device did not come up or did not last.
 """
 
 import argparse
@@ -19,14 +19,14 @@ import ctypes
 import ipaddress
 import os
 import pathlib
-import shlex
 import shutil
 import signal
-import socket
 import subprocess
 import sys
 import tempfile
 import time
+
+from orbis_tools import ENDS, FAILURE, exit_code, fail, is_running, isolate, program, say, serial_number
 
 MOST = 1000  # a bridge has 1023 ports
 DEADLINE = 300  # seconds for a device to answer; a thousand of them start at once
@@ -35,15 +35,8 @@ CLIENT, CLIENT_CARD = "192.168.7.254", "02:00:00:00:FF:FF"
 # Some masters refuse addresses that end in 0 or 255.
 ADDRESSES = [str(host) for host in NETWORK.hosts() if host.packed[3] not in (0, 255) and str(host) != CLIENT]
 
-TOP = pathlib.Path(__file__).resolve().parents[1]  # of the source tree or of the installed program's directory
-
-ENDS = (signal.SIGTERM, signal.SIGHUP)
 LIBC = ctypes.CDLL(None, use_errno=True)
 NEW_NETWORK = 0x40000000  # CLONE_NEWNET
-
-
-def say(text):
-    print(text, file=sys.stderr, flush=True)
 
 
 def ip(*commands):
@@ -101,73 +94,93 @@ class Device:
                                     env={**options.environment, "TMPDIR": str(directory), "PROGRAMDATA": str(directory)},
                                     stdin=subprocess.DEVNULL, stdout=log, stderr=subprocess.STDOUT, start_new_session=True)
 
-    def wait(self):
+    def wait_until(self, state):
+        """Waits for one of the states below."""
         end = time.monotonic() + DEADLINE
-        while not self._is_ready():
-            if time.monotonic() > end or self.process.poll() is not None:
-                sys.exit(f"{self.serial} does not answer. Its log:\n{self._log.read_text(errors='replace')}")
+        while not state(self):
+            if time.monotonic() > end or self.has_ended():
+                fail(f"{self.serial} does not answer. Its log:\n{self._log.read_text(errors='replace')}")
             time.sleep(0.05)
 
-    def _is_ready(self):
-        try:
-            with socket.create_connection((self.address, 502), timeout=2) as master:
-                master.sendall(bytes.fromhex("000100000004 01 67 1427"))  # the text in register 10004, DEV_SN
-                return master.recv(1024)[8:].decode() == self.serial and self._card in self._log.read_text()
-        except OSError:
-            return False
+    def is_ready(self):
+        return serial_number(self.address) == self.serial and self._card in self._log.read_text(errors="replace")
 
-    def terminate(self):
-        with contextlib.suppress(ProcessLookupError):
-            os.killpg(self.process.pid, signal.SIGTERM)
+    def is_running(self):
+        return is_running(self.address)
+
+    def has_ended(self):
+        return self.process.poll() is not None
 
 
-def run_beside(command):
+def run_beside(devices, command):
     """The exit code of the command; without one 0, as soon as the user has had enough."""
     if not command:
         say("A program of your own, in another terminal:\n"
             f"  nsenter --target {os.getpid()} --user --preserve-credentials --net COMMAND...\n"
             "Ctrl+C ends the fleet.")
-        try:
-            while True:
-                signal.pause()
-        except KeyboardInterrupt:
-            return 0
+        watch(devices)
+        return 0
     signal.signal(signal.SIGINT, lambda *_: None)  # left to the command, which it also reaches
     try:
         client = subprocess.Popen(command)
     except OSError as error:
         say(f"{command[0]}: {error.strerror}")
-        return 127
+        return 127 if isinstance(error, FileNotFoundError) else 126
     try:
-        code = client.wait()
+        code = exit_code(client.wait())
     finally:
         client.terminate()
-    return code if code >= 0 else 128 - code
+    return code if still_there(devices) == devices else code or FAILURE
+
+
+def still_there(devices):
+    """Says which ones have ended, and returns the others."""
+    there = [device for device in devices if not device.has_ended()]
+    for device in devices:
+        if device not in there:
+            say(f"{device.serial} has ended, with {device.process.returncode}")
+    return there
+
+
+def watch(devices):
+    signal.signal(signal.SIGCHLD, lambda *_: None)  # ends the pause
+    with contextlib.suppress(KeyboardInterrupt):
+        while True:
+            devices = still_there(devices)
+            signal.pause()
 
 
 @contextlib.contextmanager
 def display(environment):
     """Has the windows drawn on one virtual display for all of them."""
     sockets = pathlib.Path("/tmp/.X11-unix")
-    sockets.mkdir(mode=0o1777, exist_ok=True)
+    with contextlib.suppress(FileExistsError):
+        sockets.mkdir()
+        sockets.chmod(0o1777)  # mkdir leaves out what the user's mask does
     # Network namespaces don't keep X servers from taking each other's sockets, so these get a directory of their own.
     subprocess.run(["mount", "-t", "tmpfs", "sockets", sockets], check=True)
-    with subprocess.Popen(["Xvfb", "-displayfd", "1", "-nolock", "-maxclients", "2048", "-extension", "GLX"],
+    with subprocess.Popen(["setpriv", "--pdeathsig", "KILL", "Xvfb", "-displayfd", "1", "-nolock", "-maxclients", "2048",
+                           "-extension", "GLX"],
                           stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, start_new_session=True) as server:
-        environment.update(DISPLAY=":" + server.stdout.readline().strip(), QT_QPA_PLATFORM="xcb")
         try:
+            number = server.stdout.readline().strip() or fail("Xvfb does not start")
+            environment.update(DISPLAY=f":{number}", QT_QPA_PLATFORM="xcb")
             yield
         finally:
             server.terminate()
 
 
-def start_simulations(count, environment):
+def start_simulations(devices, environment):
     search = ["xdotool", "search", "--onlyvisible", "--name", "^Ravel Monitor Orbis Simulator"]
-    windows = []
-    while len(windows) < count:
-        windows = subprocess.run(search, env=environment, stdout=subprocess.PIPE, text=True, check=False).stdout.split()
+    end = time.monotonic() + DEADLINE
+    while len(windows := subprocess.run(search, env=environment, stdout=subprocess.PIPE, check=False).stdout.split()) < len(devices):
+        if time.monotonic() > end or still_there(devices) != devices:
+            fail(f"only {len(windows)} of {len(devices)} windows have come up")
+        time.sleep(0.05)
     for window in windows:  # the focus is on the start button
         subprocess.run(["xdotool", "windowfocus", "--sync", window, "key", "space"], env=environment, check=True)
+    for device in devices:
+        device.wait_until(Device.is_running)
 
 
 def run(options):
@@ -180,58 +193,58 @@ def run(options):
             for number in range(1, options.devices + 1):
                 devices.append(Device(number, options, home, pathlib.Path(scratch, str(number))))
             for device in devices:
-                device.wait()
+                device.wait_until(Device.is_ready)
             if options.running:
-                start_simulations(len(devices), options.environment)
+                start_simulations(devices, options.environment)
             say(f"{devices[0].serial} to {devices[-1].serial} are at {devices[0].address} to {devices[-1].address}, "
                 f"clients at {CLIENT}.")
-            return run_beside(options.command)
+            return run_beside(devices, options.command)
         finally:
             for number in (signal.SIGINT, *ENDS):
                 signal.signal(number, signal.SIG_IGN)
-            for device in devices:
-                device.terminate()
-            for device in devices:
-                device.process.wait()
+            end_devices()
 
 
-def program():
-    if "ORBIS_PROGRAM" in os.environ:
-        return shlex.split(os.environ["ORBIS_PROGRAM"])
-    for place in (TOP, TOP / "build-release"):
-        if (place / "RavelMonitorOrbisSimulator").exists():
-            return [str(place / "RavelMonitorOrbisSimulator")]
-    sys.exit(f"There is no simulator in {TOP}: 'make build PRESET=release' builds it, or name it in ORBIS_PROGRAM.")
+def end_devices():
+    """Also the one during whose start a signal came: they are children that lead a process group."""
+    ended = []
+    for child in map(int, pathlib.Path("/proc/thread-self/children").read_text(encoding="ascii").split()):
+        with contextlib.suppress(ProcessLookupError):
+            os.killpg(child, signal.SIGTERM)
+            ended.append(child)
+    for child in ended:
+        os.waitpid(child, 0)
 
 
-def isolate():
-    """Starts this program again as root of private namespaces."""
-    unshare = ["unshare", "--user", "--map-root-user", "--net", "--mount"]
-    attempt = subprocess.run([*unshare, "true"], stderr=subprocess.PIPE, text=True, check=False)
-    if attempt.returncode != 0:
-        sys.exit(f"Private namespaces are refused here: {attempt.stderr.strip()}. For root they may be allowed: try sudo.")
-    os.execvp(unshare[0], [*unshare, sys.executable, __file__, "--isolated", *sys.argv[1:]])
+def end(number, _):
+    for other in ENDS:
+        signal.signal(other, signal.SIG_IGN)
+    sys.exit(128 + number)
 
 
 def main():
+    signal.signal(signal.SIGINT, signal.SIG_DFL)  # until there is something to end
     parser = argparse.ArgumentParser(prog="orbis-fleet", description=__doc__,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--sn", default="SN", help="what the serial numbers begin with")
     parser.add_argument("--running", action="store_true", help="start the simulations: pressures move (xvfb, xdotool)")
     parser.add_argument("--port-isolation", action="store_true", help="keep the devices from hearing each other")
-    parser.add_argument("--isolated", action="store_true", help=argparse.SUPPRESS)  # the call from within the namespaces
-    parser.add_argument("devices", type=int, choices=range(1, MOST + 1), metavar="N", help=f"how many, up to {MOST}")
+    parser.add_argument("--isolated", help=argparse.SUPPRESS)  # the call from within the namespaces
+    parser.add_argument("devices", type=int, metavar="N", help=f"how many, up to {MOST}")
     parser.add_argument("command", nargs=argparse.REMAINDER, metavar="[--] COMMAND...")
     options = parser.parse_args()
     if options.command[:1] == ["--"]:
         del options.command[0]
+    if not 1 <= options.devices <= MOST:
+        parser.error(f"a fleet has 1 to {MOST} devices")
     if options.running and not (shutil.which("Xvfb") and shutil.which("xdotool")):
         parser.error("--running needs Xvfb and xdotool: apt install xvfb xdotool")
     if not options.isolated:
-        isolate()
+        fail(f"private namespaces are refused here ({isolate('ip link add lan type bridge')}); for root they may be allowed: try sudo")
     options.program = program()
     for number in ENDS:
-        signal.signal(number, lambda number, _: sys.exit(128 + number))
+        signal.signal(number, end)
+    signal.signal(signal.SIGINT, signal.default_int_handler)
     options.environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
     try:
         with display(options.environment) if options.running else contextlib.nullcontext():
@@ -241,4 +254,7 @@ def main():
 
 
 if __name__ == "__main__":
-    main()
+    try:
+        main()
+    except (OSError, subprocess.CalledProcessError) as problem:
+        fail(problem)

@@ -19,35 +19,19 @@ import pathlib
 import shlex
 import shutil
 import signal
-import socket
 import subprocess
 import sys
 import tempfile
 import time
 import uuid
 
-TOP = pathlib.Path(__file__).resolve().parents[1]  # of the source tree or of the installed program's directory
-NAMESPACES = ["unshare", "--user", "--map-root-user", "--net", "--mount", "--pid"]
+from orbis_tools import ENDS, FAILURE, TOP, exit_code, fail, is_running, isolate, program, say, serial_number
+
 SETUP = ("mount -t proc proc /proc; ip link set lo up;"
          "ip link add lan type veth peer name wire; ip link set wire up; ip link set lan up;"
          "ip address add 192.168.7.1/24 dev lan; ip route add 255.255.255.255 dev lan")
+SIGNALS = (signal.SIGINT, *ENDS)
 DEADLINE = 30  # seconds until the simulator answers; generous, for loaded machines
-FAILURE = 125  # as env and timeout have it
-FORWARDED = (signal.SIGTERM, signal.SIGHUP)
-
-
-def say(text):
-    print(f"orbis-with-simulator: {text}", file=sys.stderr, flush=True)
-
-
-def fail(text):
-    say(text)
-    sys.exit(FAILURE)
-
-
-def exit_code(status):
-    """That of a process, as a shell tells it: a signal counts from 128."""
-    return 128 - status if status < 0 else status
 
 
 def stop(process):
@@ -59,23 +43,6 @@ def stop(process):
         process.kill()
 
 
-def program():
-    if "ORBIS_PROGRAM" in os.environ:
-        return shlex.split(os.environ["ORBIS_PROGRAM"])
-    for place in (TOP, TOP / "build-release"):
-        if (place / "RavelMonitorOrbisSimulator").exists():
-            return [place / "RavelMonitorOrbisSimulator"]
-    return fail(f"there is no simulator in {TOP}: 'make build PRESET=release' builds it, or name it in ORBIS_PROGRAM")
-
-
-def serial_number():
-    """What the device on port 502 calls itself: register 10004 (DEV_SN) by code 103."""
-    with contextlib.suppress(OSError), socket.create_connection(("127.0.0.1", 502), 2) as device:
-        device.sendall(bytes.fromhex("0001 0000 0004 01 67 1427"))
-        return device.recv(1024)[8:].decode(errors="replace") or None
-    return None
-
-
 class Bench:
     """The simulator, the scenario and the command, with folders of their own."""
 
@@ -83,6 +50,9 @@ class Bench:
         self.arguments = arguments
         self.user = arguments.isolated
         self.command = None
+        signal.pthread_sigmask(signal.SIG_BLOCK, SIGNALS)  # until there is somebody to clean up
+        for number in SIGNALS:
+            signal.signal(number, self.hand_on)
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="orbis-"))
         for name in ("tmp", "home", "programdata"):
             (self.folder / name).mkdir(mode=0o700)
@@ -91,10 +61,11 @@ class Bench:
                             "ORBIS_SN": arguments.sn}
 
     def run(self):
-        for number in (signal.SIGINT, *FORWARDED):
-            signal.signal(number, self.hand_on)
         with contextlib.ExitStack() as stack:
             stack.callback(shutil.rmtree, self.folder, ignore_errors=True)
+            signal.pthread_sigmask(signal.SIG_UNBLOCK, SIGNALS)
+            if self.user:
+                subprocess.run(["sh", "-ec", SETUP], check=True)
             simulator = self.start_simulator(stack)
             self.wait_until_ready(simulator)
             player = self.start_scenario(stack)
@@ -120,7 +91,7 @@ class Bench:
         environment = {**self.environment, "HOME": f"{self.folder}/home", "XDG_RUNTIME_DIR": f"{self.folder}/tmp",
                        "QT_QPA_PLATFORM": "offscreen", "QT_NO_GLIB": "1"}
         if self.arguments.running:
-            environment["ORBIS_PROGRAM"] = shlex.join(map(str, program()))
+            environment["ORBIS_PROGRAM"] = shlex.join(program())
             command[:len(program())] = [TOP / "tools/orbis-running-simulator"]
         with open(self.log, "wb") as log:
             return self.start(stack, command, environment, stdout=log, stderr=subprocess.STDOUT)
@@ -140,16 +111,17 @@ class Bench:
 
     def wait_until_ready(self, simulator):
         end = time.monotonic() + DEADLINE
-        while (found := serial_number()) != self.arguments.sn:
+        while (found := serial_number("127.0.0.1")) != self.arguments.sn or self.arguments.running and not is_running("127.0.0.1"):
             if simulator.poll() is not None:
                 fail(f"the simulator ended with {simulator.returncode}:\n{self.tail()}")
-            if found is not None:
+            if found not in ("", self.arguments.sn):
                 fail(f"another device, {found}, answers on port 502")
             if "Failed listening on port" in self.text():
                 fail("port 502 is taken, or the right to bind it is missing; "
                      f"'sudo sysctl net.ipv4.ip_unprivileged_port_start=502' gives it to everybody:\n{self.tail()}")
             if time.monotonic() > end:
-                fail(f"the simulator did not answer within {DEADLINE} seconds:\n{self.tail()}")
+                what = "simulation did not start" if found else "simulator did not answer"
+                fail(f"the {what} within {DEADLINE} seconds:\n{self.tail()}")
             time.sleep(0.02)
 
     def text(self):
@@ -173,14 +145,16 @@ class Bench:
 
 def run_isolated(arguments):
     """Goes on as the first process of the process namespace, with which everything in it ends."""
+    # A first process does not get signals that it has neither blocked nor a handler for.
+    signal.pthread_sigmask(signal.SIG_BLOCK, SIGNALS)
     first = os.fork()
     if first == 0:
         ctypes.CDLL(None).prctl(1, signal.SIGKILL)  # PR_SET_PDEATHSIG: not to outlive its parent
-        subprocess.run(["sh", "-ec", SETUP], check=True)
         sys.exit(Bench(arguments).run())
-    for number in FORWARDED:
+    for number in ENDS:
         signal.signal(number, lambda number, _: os.kill(first, number))
     signal.signal(signal.SIGINT, lambda *_: None)
+    signal.pthread_sigmask(signal.SIG_UNBLOCK, SIGNALS)
     sys.exit(exit_code(os.waitstatus_to_exitcode(os.waitpid(first, 0)[1])))
 
 
@@ -199,23 +173,25 @@ def parse():
         del arguments.command[0]
     if not arguments.command:
         parser.error("which command?")
+    if not arguments.sn:
+        parser.error("which serial number?")
+    if arguments.scenario and not os.access(arguments.scenario, os.R_OK):
+        parser.error(f"{arguments.scenario} cannot be read")
     return arguments
 
 
 def main():
+    signal.signal(signal.SIGINT, signal.SIG_DFL)  # until there is something to end
     arguments = parse()
     if arguments.isolated:
         run_isolated(arguments)
-    attempt = subprocess.run([*NAMESPACES, "--fork", "sh", "-ec", SETUP], stderr=subprocess.PIPE, text=True, check=False)
-    if attempt.returncode == 0:
-        os.execvp(NAMESPACES[0], [*NAMESPACES, sys.executable, __file__, "--isolated", f"{os.getuid()}:{os.getgid()}",
-                                  *sys.argv[1:]])
-    say(f"private namespaces are refused here ({attempt.stderr.strip()}), so the simulator takes this machine's own port 502")
+    reason = isolate(SETUP, "--pid")
+    say(f"private namespaces are refused here ({reason}), so the simulator takes this machine's own port 502")
     sys.exit(Bench(arguments).run())
 
 
 if __name__ == "__main__":
     try:
         main()
-    except OSError as problem:
+    except (OSError, subprocess.CalledProcessError) as problem:
         fail(problem)

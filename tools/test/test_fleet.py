@@ -29,9 +29,12 @@ class Fleet(unittest.TestCase):
 
     def test_exit_codes(self):
         self.assertEqual(subprocess.run([*FLEET, "1", "--", "sh", "-c", "exit 7"], check=False).returncode, 7)
+        kill = "kill -KILL $(pgrep -f 'Simulator --sn SN[2]'); while pgrep -f 'Simulator --sn SN[2]'; do :; done"
+        run = subprocess.run([*FLEET, "2", "--", "sh", "-c", kill], stderr=subprocess.PIPE, text=True, check=False)
+        self.assertEqual((run.returncode, run.stderr.splitlines()[-1]), (125, "orbis-fleet: SN2 has ended, with -9"))
         os.environ["ORBIS_PROGRAM"] = "sh -c 'echo out of order'"
         run = subprocess.run([*FLEET, "2"], stderr=subprocess.PIPE, text=True, check=False)
-        self.assertEqual((run.returncode, run.stderr), (1, "SN1 does not answer. Its log:\nout of order\n\n"))
+        self.assertEqual((run.returncode, run.stderr), (125, "orbis-fleet: SN1 does not answer. Its log:\nout of order\n\n"))
 
     def test_nothing_is_left(self):
         for number in (signal.SIGINT, signal.SIGTERM, signal.SIGKILL):

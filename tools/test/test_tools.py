@@ -8,6 +8,7 @@ import shlex
 import signal
 import socket
 import subprocess
+import time
 import unittest
 
 import harness
@@ -61,6 +62,14 @@ class WithSimulator(unittest.TestCase):
             self.assertEqual(process.returncode, code)
             harness.wait_until(lambda: subprocess.run(["pgrep", "-f", "sn MARKED"], check=False).returncode, "the end of all")
 
+    def test_signal_at_any_stage_of_the_start(self):
+        for stage in range(20):
+            process = start(WRAPPER, "--sn", "MARKED", "sleep", "1000")
+            time.sleep(stage / 40)
+            process.send_signal(signal.SIGHUP)
+            process.communicate(timeout=harness.DEADLINE)
+        self.assertEqual(list(pathlib.Path(os.environ["TMPDIR"]).glob("orbis-*")), [])
+
     def test_scenario_and_running_simulation(self):
         wait = f"until {READ} 127.0.0.1 | grep ':.*6'; do sleep 0.1; done"
         for option in (["--running"], ["--scenario", ROOT / "examples/overheating.json"]):
@@ -68,9 +77,9 @@ class WithSimulator(unittest.TestCase):
             self.assertEqual(code, 0, errors)
 
     def test_without_namespaces(self):
-        limit = pathlib.Path("/proc/sys/user/max_user_namespaces")  # this test's own
-        self.addCleanup(limit.write_text, limit.read_text())
-        limit.write_text("0")
+        os.symlink("/bin/false", f"{os.environ['TMPDIR']}/unshare")
+        self.addCleanup(os.environ.update, PATH=os.environ["PATH"])
+        os.environ["PATH"] = f"{os.environ['TMPDIR']}:{os.environ['PATH']}"
         code, output, errors = run(WRAPPER, *READ.split(), "127.0.0.1")
         self.assertEqual((code, output.split()[-1]), (0, "5"), errors)
         self.assertIn("namespaces are refused here", errors)
