@@ -88,8 +88,11 @@ def main():
     parser.add_argument("scenario")
     arguments = parser.parse_args()
 
-    with open(arguments.scenario, encoding="utf-8") as file:
-        scenario = json.load(file)
+    try:
+        with open(arguments.scenario, encoding="utf-8") as file:
+            scenario = json.load(file)
+    except (OSError, ValueError) as error:
+        sys.exit(f"{arguments.scenario}: {error}")
     try:
         device = Device(arguments.host)
     except OSError:
