@@ -6,6 +6,7 @@
 import contextlib
 import ctypes
 import os
+import re
 import resource
 import signal
 import socket
@@ -25,6 +26,7 @@ CONFIGURATION = "Pelmora/Ravel Monitor Orbis Simulator"
 READ_PRESSURE = bytes.fromhex("0001 0000 0006 01 03 0FCA 0002")
 PRESSURE = "0400004100"
 CLIENT_MESSAGE = 33  # in X
+OPERATE = os.path.join(os.path.dirname(__file__), "../../examples/operate.sh")
 READ_EVERYTHING = bytes.fromhex("0001 0000 0006 01 03 0000 FFFF")
 
 
@@ -118,14 +120,27 @@ class Torture(harness.TestCase):
             self.assertEqual(master.recv(1024)[8:].hex(), PRESSURE)
             master.close()
 
-    def test_window_is_closed(self):
+    def test_window_is_operated_and_closed(self):
         if not harness.WINDOWS:  # which always has a screen
             server = harness.open_display()
             self.addCleanup(server.communicate)
             self.addCleanup(server.terminate)
-        simulator = self.start(environment={} if harness.WINDOWS else harness.VISIBLE)
+        simulator = self.start("--sn", "W" * 100, environment={} if harness.WINDOWS else harness.VISIBLE)
         idle, stuck = self.connect(), self.connect()
-        self.check_served(idle)
+
+        def moves():
+            before = harness.ask(idle, 3, "07F00002")
+            time.sleep(0.3)
+            return harness.ask(idle, 3, "07F00002") != before
+
+        self.assertFalse(moves())
+        subprocess.run(["sh", OPERATE, "toggle"], check=True)
+        harness.wait_until(moves, "the simulation")
+        subprocess.run(["sh", OPERATE, "toggle"], check=True)
+        harness.wait_until(lambda: not moves(), "its end")
+        geometry = subprocess.check_output("xdotool search --name ^Ravel getwindowgeometry --shell".split(), text=True)
+        self.assertGreater(int(re.search("WIDTH=(.*)", geometry)[1]), 500)  # such a serial number takes room
+
         for _ in range(20):
             stuck.sendall(READ_EVERYTHING)
         close_window(int(subprocess.check_output("xdotool search --sync --onlyvisible --name ^Ravel".split())))

@@ -16,7 +16,6 @@
 #ifdef Q_OS_WIN
 #include <winsock2.h>
 #else
-#include <sys/resource.h>
 #include <sys/socket.h>
 #endif
 
@@ -136,33 +135,6 @@ private slots:
     }
 
 #ifndef Q_OS_WIN
-    // With 64 descriptors 16 are the channel's and 32 the rest of the program's.
-    void placesAreFew()
-    {
-        delete m_connections;
-        rlimit usual{};
-        QCOMPARE(getrlimit(RLIMIT_NOFILE, &usual), 0);
-        const rlimit low{64, usual.rlim_max};
-        QCOMPARE(setrlimit(RLIMIT_NOFILE, &low), 0);
-        init();
-        QCOMPARE(setrlimit(RLIMIT_NOFILE, &usual), 0);
-
-        QTest::ignoreMessage(QtWarningMsg, "Further Modbus masters have to wait, connected are 16");
-        QTest::ignoreMessage(QtWarningMsg, "Further Modbus masters have to wait, connected are 16");
-        std::vector<std::unique_ptr<ModbusClient>> masters;
-        for (int i = 0; i < 17; ++i) {
-            masters.push_back(std::make_unique<ModbusClient>(port()));
-        }
-        QTRY_COMPARE(sockets().size(), 16);
-        masters.erase(masters.begin()); // its place is the last one's
-        QCOMPARE(masters.back()->exchange(request, m_answer.size()), m_answer);
-        masters.clear();
-        for (int i = 0; i < 40; ++i) { // who has left does not count
-            ModbusClient guest(port());
-            QCOMPARE(guest.exchange(request, m_answer.size()), m_answer);
-        }
-    }
-
     // A read stops where urgent data was.
     void endsAfterUrgentData()
     {
