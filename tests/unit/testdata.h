@@ -53,33 +53,27 @@ inline QList<DataLine> placedLines(const char *name)
 inline QStringList dataLines(const char *name)
 {
     QStringList texts;
-    for (const DataLine &line : placedLines(name)) {
-        texts += line.text;
-    }
+    const QList<DataLine> lines = placedLines(name);
+    std::transform(lines.begin(), lines.end(), std::back_inserter(texts), [](const DataLine &line) { return line.text; });
     return texts;
 }
 
-// The fields of a line between "|".
-inline QStringList fields(const QString &line)
-{
-    return line.split(QRegularExpression(" *\\| *"_s));
-}
-
+// Each line is a row of fields between "|".
 inline QList<QStringList> dataTable(const char *name)
 {
     QList<QStringList> rows;
     for (const QString &line : dataLines(name)) {
-        rows += fields(line);
+        rows += line.split(QRegularExpression(" *\\| *"_s));
     }
     return rows;
 }
 
-// Adds each line as a test row with a column of "fields".
+// Adds each of these rows as a test row with a column of "fields".
 inline void addTable(const char *name)
 {
     QTest::addColumn<QStringList>("fields");
-    for (const DataLine &line : placedLines(name)) {
-        QTest::newRow(qPrintable(line.place)) << fields(line.text);
+    for (const QStringList &row : dataTable(name)) {
+        QTest::newRow(qPrintable(row.join(" | "_s))) << row;
     }
 }
 

@@ -43,6 +43,7 @@ private slots:
         connect(m_slave, &ModbusTcpSlave::holdingRegisterRead, m_client, record("read %1 %2"_s));
         connect(m_slave, &ModbusTcpSlave::holdingRegisterWritten, m_client, record("written %1 %2"_s));
         play(steps, *m_client, m_slave, &reports);
+        QCOMPARE(m_client->exchange("0063 0000 0004 01 66 F407", 12).toHex(' '), QByteArray("00 63 00 00 00 06 01 66 74 65 78 74"));
     }
 
     void registerLayout_data()
