@@ -79,6 +79,38 @@ private slots:
         QCOMPARE(m_slave->propertyNumbers(), (QList<quint16>{1016, 1018}));
     }
 
+    void packets()
+    {
+        QTcpServer server;
+        QVERIFY(server.listen());
+        ModbusClient client(server.serverPort());
+        QVERIFY(server.waitForNewConnection(5000));
+        QTcpSocket *peer = server.nextPendingConnection();
+        bool failed = true;
+        NetworkHelper::sendPacket(&client, "abc", &failed);
+        QVERIFY(!failed);
+        QCOMPARE(NetworkHelper::receivePacket(peer, &failed), QByteArray("abc"));
+        QVERIFY(!failed);
+        QTest::ignoreMessage(QtInfoMsg, "Read timeout.");
+        QCOMPARE(NetworkHelper::receivePacket(peer, &failed), QByteArray());
+        QVERIFY(failed);
+        QTest::ignoreMessage(QtInfoMsg, "Write timeout."); // once its buffers are full
+        failed = false;
+        for (int i = 0; i < 100 && !failed; ++i) {
+            NetworkHelper::sendPacket(&client, QByteArray(1000000, 'x'), &failed);
+        }
+        QVERIFY(failed);
+        client.abort();
+        QTest::ignoreMessage(QtWarningMsg, "Socket is not writable.");
+        QTest::ignoreMessage(QtWarningMsg, "Socket is not readable.");
+        bool refused = false;
+        NetworkHelper::sendPacket(&client, "abc", &refused);
+        QVERIFY(refused);
+        refused = false;
+        QCOMPARE(NetworkHelper::receivePacket(&client, &refused), QByteArray());
+        QVERIFY(refused);
+    }
+
     void addressTexts_data() { addTable("addresses.txt"); }
     void addressTexts()
     {
