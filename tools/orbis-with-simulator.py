@@ -49,10 +49,10 @@ class Bench:
     def __init__(self, arguments):
         self.arguments = arguments
         self.user = arguments.isolated
-        self.command = None
-        signal.pthread_sigmask(signal.SIG_BLOCK, SIGNALS)  # until there is somebody to clean up
+        self.command = self.early_signal = None
         for number in SIGNALS:
             signal.signal(number, self.hand_on)
+        signal.pthread_sigmask(signal.SIG_UNBLOCK, SIGNALS)
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="orbis-"))
         for name in ("tmp", "home", "programdata"):
             (self.folder / name).mkdir(mode=0o700)
@@ -63,7 +63,6 @@ class Bench:
     def run(self):
         with contextlib.ExitStack() as stack:
             stack.callback(shutil.rmtree, self.folder, ignore_errors=True)
-            signal.pthread_sigmask(signal.SIG_UNBLOCK, SIGNALS)
             if self.user:
                 subprocess.run(["sh", "-ec", SETUP], check=True)
             simulator = self.start_simulator(stack)
@@ -80,8 +79,8 @@ class Bench:
 
     def hand_on(self, number, _):
         if self.command is None:
-            sys.exit(128 + number)
-        if number != signal.SIGINT:  # which the terminal sends to the command as well
+            self.early_signal = number
+        elif number != signal.SIGINT:  # which the terminal sends to the command as well
             self.command.send_signal(number)
 
     def start_simulator(self, stack):
@@ -112,6 +111,8 @@ class Bench:
     def wait_until_ready(self, simulator):
         end = time.monotonic() + DEADLINE
         while (found := serial_number("127.0.0.1")) != self.arguments.sn or self.arguments.running and not is_running("127.0.0.1"):
+            if self.early_signal:
+                sys.exit(128 + self.early_signal)
             if simulator.poll() is not None:
                 fail(f"the simulator ended with {simulator.returncode}:\n{self.tail()}")
             if found not in ("", self.arguments.sn):
@@ -140,6 +141,8 @@ class Bench:
         except OSError as error:
             say(f"{command[0]}: {error.strerror}")
             return 127 if isinstance(error, FileNotFoundError) else 126
+        if self.early_signal:
+            self.command.send_signal(self.early_signal)
         return exit_code(self.command.wait())
 
 
