@@ -42,8 +42,8 @@ class WithSimulator(unittest.TestCase):
             code, output, errors = run(WRAPPER, "echo", "tested", program=program)
             self.assertEqual((code, output), (125, ""), errors)
             self.assertIn(complaint, errors)
-        code, _, errors = run(WRAPPER, "sh", "-c", "pkill -KILL Ravel; until grep Z.*zombie /proc/$(pgrep Ravel)/status; do :; done",
-                              program=harness.command()[-1])
+        dead = "until grep -Ec 'zombie|Threads:.1$' /proc/$(pgrep Ravel)/status | grep 2; do :; done"  # all of its threads
+        code, _, errors = run(WRAPPER, "sh", "-c", f"pkill -KILL Ravel; {dead}", program=harness.command()[-1])
         self.assertEqual(code, 125, errors)
         self.assertIn("ended before the command, with -9", errors)
 
