@@ -201,6 +201,9 @@ private slots:
         OrvetPeer peer;
         QSignalSpy discovered(&peer, SIGNAL(deviceDiscovered(OrvetInformation)));
         QSignalSpy got(&peer, SIGNAL(getResponseReceived(OrvetInformation)));
+        const auto checkThread = [this] { QCOMPARE(QThread::currentThread(), thread()); }; // not the worker's
+        connect(&peer, &OrvetPeer::deviceDiscovered, checkThread);
+        connect(&peer, &OrvetPeer::getResponseReceived, checkThread);
         peer.setHostEnabled(true);
         peer.start(requestPort, responsePort);
         QCOMPARE(peer.value("addr1"_s), "127.0.0.1"_s);

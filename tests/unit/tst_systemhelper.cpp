@@ -13,7 +13,12 @@ class TestSystemHelper : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { SystemHelper::initializeConfigurationPath(); }
+    void initTestCase()
+    {
+        QTest::ignoreMessage(QtWarningMsg, "Configuration path not set!");
+        QCOMPARE(SystemHelper::configurationPath(), QString());
+        SystemHelper::initializeConfigurationPath();
+    }
 
     void fallbackDirectory()
     {
