@@ -59,6 +59,12 @@ private slots:
         QCOMPARE(m_client->ask(3, "07DA 0002").toHex(), "04" + lowHalf + "0000"); // masters rely on the second register
     }
 
+    void portIsTaken()
+    {
+        QTest::ignoreMessage(QtCriticalMsg, "Failed listening on port 502");
+        const ModbusManager second(nullptr);
+    }
+
 private:
     qint64 firstOf(const QByteArray &registers) { return m_client->ask(3, registers).mid(1, 2).toHex().toInt(nullptr, 16); }
     int next() { return static_cast<int>(firstOf("1F42 0002")); } // number from the iterator

@@ -48,6 +48,9 @@ private slots:
         m_storage.store("/integer"_s, 5);
         m_storage.store("/long long"_s, Q_INT64_C(-9));
         m_storage.store("/texts"_s, QStringList("k"_s));
+        m_storage.store("/unsigned"_s, 5U);
+        m_storage.store("/unsigned long long"_s, Q_UINT64_C(9));
+        m_storage.store("/yes"_s, true);
         m_storage.store("/pointer"_s, QVariant::fromValue<void *>(nullptr));
         QTest::ignoreMessage(QtWarningMsg, "Snapshot key \"/pointer\" cannot be saved.");
         const QSignalSpy saved(&m_storage, SIGNAL(snapshotSaved(QString)));
