@@ -4,6 +4,7 @@
 // Frames and handlers of the Modbus slave through a real socket.
 
 #include "common/helpers/networkhelper.h"
+#include "common/modbus/protocoldataunit.h"
 #include "common/modbus/varnomodbustcpslave.h"
 #include "modbusclient.h"
 
@@ -77,6 +78,13 @@ private slots:
         QTest::ignoreMessage(QtWarningMsg, "No register set with number 14");
         QVERIFY(!m_slave->propertyValue(7).isValid());
         QCOMPARE(m_slave->propertyNumbers(), (QList<quint16>{1016, 1018}));
+    }
+
+    void pduBytes()
+    {
+        QCOMPARE(ProtocolDataUnit(3, "ab").toByteArray(),
+                 QByteArray("\x03"
+                            "ab"));
     }
 
     void packets()

@@ -222,7 +222,7 @@ private slots:
         discovered.clear();
         got.clear();
         for (int n = 0; n < 1000; ++n) {
-            broadcast(m_sender, "g", responsePort);
+            broadcast(m_sender, QByteArray(1400, 'g'), responsePort); // an Ethernet frame each
             peer.value("key"_s);
         }
         peer.value("key"_s);
