@@ -215,8 +215,14 @@ private:
         m_timeouts += failed ? 1 : 0;
     }
 
-    QList<QAbstractSocket *> sockets() const { return m_connections->findChildren<QAbstractSocket *>(); }
-    quint16 port() const { return m_connections->serverPort(); }
+    QList<QAbstractSocket *> sockets() const
+    {
+        return m_connections->findChildren<QAbstractSocket *>();
+    }
+    quint16 port() const
+    {
+        return m_connections->serverPort();
+    }
 
     ModbusConnections *m_connections = nullptr;
     QByteArray m_answer;
