@@ -13,6 +13,8 @@ import unittest
 
 import harness
 
+harness.require_namespaces()
+
 ROOT = pathlib.Path(__file__).parents[2]
 BLOCK = re.compile(r"^```console\n(.*?)^```", re.MULTILINE | re.DOTALL)
 COMMAND = re.compile(r"^\$ (.*)\n((?:(?!\$ ).*\n)*)", re.MULTILINE)
@@ -59,8 +61,3 @@ class Documentation(unittest.TestCase):
         flags = doctest.ELLIPSIS | doctest.NORMALIZE_WHITESPACE
         self.assertTrue(doctest.OutputChecker().check_output(wanted, run.stdout, flags),
                         f"{command}\nprints\n{run.stdout}\nnot\n{wanted}")
-
-
-if __name__ == "__main__":
-    harness.require_namespaces()
-    unittest.main()

@@ -46,7 +46,3 @@ class Translations(unittest.TestCase):
         found = pathlib.Path(os.environ["TMPDIR"], "found.ts")
         subprocess.run([os.environ["LUPDATE"], "-silent", ROOT / "src/mainwindow.cpp", "-ts", found], check=True)
         self.check("interface", "GUI", {source.text for source in ElementTree.parse(found).iter("source")})
-
-
-if __name__ == "__main__":
-    unittest.main()

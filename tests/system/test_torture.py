@@ -22,6 +22,8 @@ import harness
 sys.path.append(os.path.join(os.path.dirname(__file__), "../../benchmarks"))
 import stalls  # noqa: E402
 
+harness.require_namespaces()
+
 CONFIGURATION = "Pelmora/Ravel Monitor Orbis Simulator"
 READ_PRESSURE = bytes.fromhex("0001 0000 0006 01 03 0FCA 0002")
 PRESSURE = "0400004100"
@@ -203,8 +205,3 @@ class Torture(harness.TestCase):
                 with harness.connect() as guest:
                     self.check_served(guest)
             harness.wait_until(lambda: len(os.listdir(descriptors)) == before, "the descriptors of gone masters")
-
-
-if __name__ == "__main__":
-    harness.require_namespaces()
-    unittest.main()

@@ -12,6 +12,8 @@ import unittest
 
 import harness
 
+harness.require_namespaces()
+
 ROOT = pathlib.Path(__file__).parents[2]
 FLEET = [sys.executable, "-B", ROOT / "tools/orbis-fleet.py"]
 CLIENT = [sys.executable, "-B", ROOT / "examples/read_fleet.py", "192.168.7.254"]
@@ -47,8 +49,3 @@ class Fleet(unittest.TestCase):
                 harness.wait_until(lambda: not any(os.path.exists(f"/proc/{device}/exe") for device in devices), "their end")
                 folders = list(pathlib.Path(os.environ["TMPDIR"]).glob("orbis-fleet-*"))
                 self.assertEqual(len(folders), number == signal.SIGKILL)
-
-
-if __name__ == "__main__":
-    harness.require_namespaces()
-    unittest.main()

@@ -13,6 +13,8 @@ import unittest
 
 import harness
 
+harness.require_namespaces()
+
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 WRAPPER, PROXY = ROOT / "tools/orbis-with-simulator.py", ROOT / "tools/orbis-fault-proxy.py"
 PROGRAM = shlex.join(harness.command())
@@ -88,7 +90,7 @@ class WithSimulator(unittest.TestCase):
         self.assertEqual(code, 125, errors)
 
 
-class FaultProxy(unittest.TestCase):
+class FaultProxy(harness.TestCase):
     def test_discovery(self):
         """Clients and devices have a network each, and the proxy a card in both."""
         device, client = harness.Host(), harness.Host()
@@ -98,8 +100,7 @@ class FaultProxy(unittest.TestCase):
             with host:
                 harness.shell(f"ip link set lo up; ip address add 192.168.{number}.1/24 dev card; ip link set card up")
         with device:
-            simulator = harness.start(["--sn", "FAR"])
-        self.addCleanup(simulator.stop)
+            simulator = self.start("--sn", "FAR")
         simulator.wait_for_log('with ip "192.168.7.1"')
         visit = f"python3 {ROOT}/examples/discover.py 192.168.8.1; {READ} 192.168.8.254"
         for drop, seen in {0: "192.168.8.254 | Duo Orbis 7316-20 FAR | Orbis Simulator\n    dhcp=off", 1: "no device"}.items():
@@ -108,8 +109,3 @@ class FaultProxy(unittest.TestCase):
                                     "nsenter", f"--net={client.path}", "sh", "-c", visit)
             self.assertIn(seen, output + errors)
             self.assertEqual("[2032]: \t5" in output, drop == 0, errors)
-
-
-if __name__ == "__main__":
-    harness.require_namespaces()
-    unittest.main()

@@ -6,9 +6,10 @@ import os
 import pathlib
 import re
 import subprocess
-import unittest
 
 import harness
+
+harness.require_namespaces()
 
 ROOT = pathlib.Path(__file__).parents[2]
 FIELDS = "orvet.type orvet.ip_address orvet.property orbis.text orbis.value _ws.expert.message _ws.col.Info".split()
@@ -25,7 +26,7 @@ CAPTURE = ["dumpcap", "-f", "udp or tcp[13] & 8 != 0", *f"-i lan -i lo -c {len(E
 SHOW = ["tshark", "-2", "-X", f"lua_script:{ROOT}/wireshark/orbis.lua", "-T", "fields", "-E", "separator=|"]
 
 
-class Dissector(unittest.TestCase):
+class Dissector(harness.TestCase):
     def test_no_property_is_forgotten(self):
         rows = [re.split(r" *\| *", line) for line in (ROOT / "tests/data/properties.txt").read_text().splitlines() if line[:1].isdigit()]
         dissector = re.findall(r'\[(\d+)\] = { "(.)", "(.+)" }', (ROOT / "wireshark/orbis.lua").read_text())
@@ -37,8 +38,7 @@ class Dissector(unittest.TestCase):
 
     def test_capture(self):
         harness.plug_in_card()
-        simulator = harness.start(["--sn", "ABC123"])
-        self.addCleanup(simulator.stop)
+        simulator = self.start("--sn", "ABC123")
         simulator.wait_for_log('with ip "192.168.7.1"')
         harness.connect().close()
         with subprocess.Popen(CAPTURE, stdout=subprocess.PIPE, stderr=subprocess.PIPE) as capture:
@@ -54,8 +54,3 @@ class Dissector(unittest.TestCase):
         shown = re.sub(r"Possible traceroute[^|]*", "", shown)
         # Of the Info column what the dissector adds; discovery's begins with who asks.
         self.assertEqual(sorted(re.sub(r"[^|[]*(\[.*)?$", r"\1", line) for line in shown.splitlines()), sorted(EXPECTED))
-
-
-if __name__ == "__main__":
-    harness.require_namespaces()
-    unittest.main()

@@ -14,6 +14,10 @@ import unittest.mock
 
 import harness
 
+if not shutil.which("dpkg-shlibdeps"):
+    print("skipped: this system makes no Debian packages")
+    sys.exit(77)
+
 
 class Package(unittest.TestCase):
     def test_unpacked_package_runs(self):
@@ -34,10 +38,3 @@ class Package(unittest.TestCase):
             simulator.wait_for_log('Successfully set language to "fr_FR"')
             simulator.wait_for_log("Added port for device")
             simulator.stop()
-
-
-if __name__ == "__main__":
-    if not shutil.which("dpkg-shlibdeps"):
-        print("skipped: this system makes no Debian packages")
-        sys.exit(77)
-    unittest.main()

@@ -5,10 +5,8 @@
 import os
 import pathlib
 import re
-import socket
 import subprocess
 import tempfile
-import unittest
 import unittest.mock
 
 import harness
@@ -21,14 +19,6 @@ IDENTITY = pathlib.Path(os.environ["PROGRAMDATA"], "Pelmora/Ravel Monitor Orbis 
 SCRATCH = pathlib.Path(os.environ["TMPDIR"])
 START_MENU_ENTRY = pathlib.Path(os.environ["PROGRAMDATA"],
                                 "Microsoft/Windows/Start Menu/Programs/Ravel Monitor Orbis Simulator.lnk")
-
-
-def serves():
-    try:
-        socket.create_connection(("127.0.0.1", 502), harness.DEADLINE).close()
-        return True
-    except ConnectionRefusedError:
-        return False
 
 
 def run(*command):
@@ -53,16 +43,15 @@ def colours_on_screen():
     return int(subprocess.check_output("import -window root -format %k info:".split()))
 
 
-class Package(unittest.TestCase):
-    def start(self, program, **environment):
+class Package(harness.TestCase):
+    def start_from(self, program, **environment):
         with unittest.mock.patch.dict(os.environ, SIMULATOR=str(program), **environment):
-            simulator = harness.start(["--factorytech"])
-        self.addCleanup(simulator.stop)
-        harness.wait_until(serves, "port 502")
+            simulator = self.start("--factorytech")
+        harness.connect().close()
         return simulator
 
     def test_zip(self):
-        simulator = self.start(PROGRAM, WINEDEBUG="+loaddll")
+        simulator = self.start_from(PROGRAM, WINEDEBUG="+loaddll")
         harness.wait_until(lambda: colours_on_screen() > 50, "a window")
         loaded = {path.replace("\\\\", "/").rpartition(f"/{PROGRAM.parent.name}/")[2]
                   for path in re.findall(r'Loaded L"(.*?)" at \w+: native', simulator.log())}
@@ -94,7 +83,7 @@ class Package(unittest.TestCase):
         installed = sum(path.stat().st_size for path in INSTALLED.rglob("*"))
         self.assertAlmostEqual(int(size, 16) * 1024 / installed, 1, delta=0.05)
 
-        self.start(INSTALLED / PROGRAM.name).stop()
+        self.start_from(INSTALLED / PROGRAM.name).stop()
         self.assertIn("delete rule name=", run(INSTALLED / "Uninstall.exe", "/S"))
         self.assertFalse(INSTALLED.parent.exists())
         self.assertFalse(START_MENU_ENTRY.exists())
@@ -104,7 +93,7 @@ class Package(unittest.TestCase):
         widths = []
         for resolution in ("192", "96"):
             run("reg", "add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t", "REG_DWORD", "/d", resolution, "/f")
-            simulator = self.start(PROGRAM)
+            simulator = self.start_from(PROGRAM)
             widths.append(harness.wait_until(window_width, "the window"))
             simulator.stop()
         self.assertAlmostEqual(widths[0] / widths[1], 2, delta=0.1)
@@ -123,7 +112,3 @@ class Package(unittest.TestCase):
         self.assertEqual(starter.wait(harness.DEADLINE), 0)
         trace.seek(0)
         self.assertIn(b"console_input_ioctl set 1b7 mode", trace.read())  # as it was but for 0x40
-
-
-if __name__ == "__main__":
-    unittest.main()
