@@ -74,14 +74,6 @@ def open_display():
     return server
 
 
-def udp_socket(address, port):
-    result = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
-    result.setsockopt(socket.SOL_SOCKET, socket.SO_BROADCAST, 1)
-    result.settimeout(DEADLINE)
-    result.bind((address, port))
-    return result
-
-
 def command(*arguments, program="SIMULATOR"):
     return shlex.split(os.environ.get("SIMULATOR_LAUNCHER", "")) + [os.environ[program], *arguments]
 
@@ -133,7 +125,7 @@ class Simulator:
         """Ends the program, which must do so cleanly (a leak checker speaks up here); once is enough."""
         if self.process.returncode is None:
             assert self.process.poll() is None, f"ended on its own with {self.process.poll()}:\n{self.log()}"
-            if "CHANNEL_WRITER" not in os.environ:  # a request to terminate during start-up ends it at once
+            if not WINDOWS:  # a request to terminate during start-up ends it at once
                 write_to_channel(b"", self._channel_directory)
             self.process.terminate()
             code = self.process.wait(DEADLINE)
