@@ -33,14 +33,6 @@ private slots:
         SystemHelper::initializeConfigurationPath();
     }
 
-    void identityIsKept()
-    {
-        const QString first = SystemHelper::getIdentifier();
-        QCOMPARE(QUuid::fromString(first).toString(QUuid::WithoutBraces), first);
-        QTest::ignoreMessage(QtInfoMsg, qPrintable("Cached ID: \"%1\""_s.arg(first)));
-        QCOMPARE(SystemHelper::getIdentifier(), first);
-    }
-
     void userAndComputerName_data() { addTable("users.txt"); }
     void userAndComputerName()
     {
