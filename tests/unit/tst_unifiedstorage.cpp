@@ -9,9 +9,9 @@
 #include <QtGui>
 #include <QtTest>
 
+#include <array>
 #include <atomic>
 #include <thread>
-#include <vector>
 
 static QByteArray streamed(const QVariant &value)
 {
@@ -174,10 +174,7 @@ private slots:
                 m_storage.take("/file"_s);
             }
         };
-        std::vector<std::thread> workers;
-        for (const QString &key : {"a"_s, "b"_s, "c"_s}) {
-            workers.emplace_back(work, key);
-        }
+        std::array workers{std::thread(work, "a"_s), std::thread(work, "b"_s), std::thread(work, "c"_s)};
         for (std::thread &worker : workers) {
             worker.join();
         }
