@@ -4,8 +4,8 @@
 // The simulated device as a master sees it on port 502, with the operator's calls made directly.
 
 #include "common/helpers/systemhelper.h"
-#include "modbusclient.h"
 #include "modbusmanager.h"
+#include "modbusmaster.h"
 
 #include <QDateTime>
 #include <QtEndian>
@@ -19,12 +19,12 @@ private slots:
     void init()
     {
         m_manager = new ModbusManager(this);
-        m_client = new ModbusClient(502);
+        m_master = new ModbusMaster(502);
     }
 
     void cleanup()
     {
-        delete m_client;
+        delete m_master;
         delete m_manager;
     }
 
@@ -33,14 +33,14 @@ private slots:
     {
         QFETCH(QList<DataLine>, steps);
         QStringList reports; // none, the manager keeps them to itself
-        play(steps, *m_client, m_manager, &reports);
+        play(steps, *m_master, m_manager, &reports);
     }
 
     void properties()
     {
         QTest::ignoreMessage(QtCriticalMsg, "Reset iterator to 1000");
         QTest::ignoreMessage(QtCriticalMsg, "Updated iterator to 1001");
-        m_client->ask(16, "1F42 0002 04 0000 0000");
+        m_master->ask(16, "1F42 0002 04 0000 0000");
         QList<QStringList> walked;
         for (int number = next(); number != 0xFFFF; number = next()) {
             walked += {QString::number(number), text(100, number), text(102, number), text(101, number), text(103, number)};
@@ -56,7 +56,7 @@ private slots:
         const auto tick = text(103, 1005).toLongLong();
         QVERIFY(tick >= before && tick <= QDateTime::currentSecsSinceEpoch());
         const QByteArray lowHalf = QByteArray::number(tick, 16).right(4);
-        QCOMPARE(m_client->ask(3, "07DA 0002").toHex(), "04" + lowHalf + "0000"); // masters rely on the second register
+        QCOMPARE(m_master->ask(3, "07DA 0002").toHex(), "04" + lowHalf + "0000"); // masters rely on the second register
     }
 
     void portIsTaken()
@@ -66,16 +66,15 @@ private slots:
     }
 
 private:
-    qint64 firstOf(const QByteArray &registers) { return m_client->ask(3, registers).mid(1, 2).toHex().toInt(nullptr, 16); }
-    int next() { return static_cast<int>(firstOf("1F42 0002")); } // number from the iterator
+    int next() { return m_master->ask(3, "1F42 0002").mid(1, 2).toHex().toInt(nullptr, 16); } // number from the iterator
     QString text(quint8 functionCode, int property)
     {
         const auto address = qToLittleEndian(static_cast<quint16>(2 * property));
-        return QString::fromUtf8(m_client->ask(functionCode, QByteArray(reinterpret_cast<const char *>(&address), 2).toHex()));
+        return QString::fromUtf8(m_master->ask(functionCode, QByteArray(reinterpret_cast<const char *>(&address), 2).toHex()));
     }
 
     ModbusManager *m_manager = nullptr;
-    ModbusClient *m_client = nullptr;
+    ModbusMaster *m_master = nullptr;
 };
 
 QTEST_GUILESS_MAIN(TestModbusManager)

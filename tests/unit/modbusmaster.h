@@ -12,11 +12,11 @@
 #include <QSignalSpy>
 #include <QTcpSocket>
 
-class ModbusClient : public QTcpSocket
+class ModbusMaster : public QTcpSocket
 {
 public:
     // A small receive buffer makes the peer wait for this side to read.
-    explicit ModbusClient(quint16 port, int receiveBufferSize = 0)
+    explicit ModbusMaster(quint16 port, int receiveBufferSize = 0)
     {
         if (receiveBufferSize > 0) {
             bind();
@@ -57,18 +57,18 @@ public:
 //   ! type text    a line that the next step logs
 //   swing number   takes the device's simulation to these milliseconds of a swing, and halts it there
 //   slot [number]  calls the device's slot
-inline void play(const QList<DataLine> &steps, ModbusClient &client, QObject *device, QStringList *reports)
+inline void play(const QList<DataLine> &steps, ModbusMaster &master, QObject *device, QStringList *reports)
 {
     for (const DataLine &step : steps) {
         const QString verb = step.verb();
         const QByteArray bytes = QByteArray::fromHex(step.rest().toLatin1());
         if (verb == ">"_s) {
             QSignalSpy read(device->findChild<ModbusConnections *>(), &ModbusConnections::requestReceived);
-            client.write(bytes);
+            master.write(bytes);
             QVERIFY2(read.wait(), qPrintable(step.failure("to be read"_s, "nothing"_s)));
         } else if (verb == "<"_s) {
-            client.waitFor(bytes.size());
-            const QByteArray answer = client.read(bytes.size());
+            master.waitFor(bytes.size());
+            const QByteArray answer = master.read(bytes.size());
             QVERIFY2(answer == bytes,
                      qPrintable(step.failure(QString::fromLatin1(bytes.toHex(' ')), QString::fromLatin1(answer.toHex(' ')))));
         } else if (verb == "read"_s || verb == "written"_s) {
@@ -87,6 +87,6 @@ inline void play(const QList<DataLine> &steps, ModbusClient &client, QObject *de
             QVERIFY2(isCalled, qPrintable(step.failure("a slot"_s, "none"_s)));
         }
     }
-    QCOMPARE(client.readAll().toHex(' '), QByteArray());
+    QCOMPARE(master.readAll().toHex(' '), QByteArray());
     QCOMPARE(*reports, QStringList());
 }
