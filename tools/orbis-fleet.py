@@ -143,11 +143,12 @@ def still_there(devices):
 
 
 def watch(devices):
-    signal.signal(signal.SIGCHLD, lambda *_: None)  # ends the pause
-    with contextlib.suppress(KeyboardInterrupt):
-        while True:
-            devices = still_there(devices)
-            signal.pause()
+    """Until Ctrl+C."""
+    awaited = {signal.SIGINT, signal.SIGCHLD}
+    signal.pthread_sigmask(signal.SIG_BLOCK, awaited)  # none is lost that comes between the check and the wait
+    devices = still_there(devices)
+    while signal.sigwaitinfo(awaited).si_signo != signal.SIGINT:
+        devices = still_there(devices)
 
 
 @contextlib.contextmanager

@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 """A fleet is found and read by a client beside it, and leaves nothing behind however it ends."""
 
+import contextlib
 import os
 import pathlib
 import shlex
@@ -40,7 +41,10 @@ class Fleet(unittest.TestCase):
 
     def test_nothing_is_left(self):
         for number in (signal.SIGINT, signal.SIGTERM, signal.SIGKILL):
-            with self.subTest(number), subprocess.Popen([*FLEET, "2"], stderr=subprocess.PIPE) as fleet:
+            # Started as in a script by "orbis-fleet 2 &".
+            command = ["env", "--ignore-signal=INT", *FLEET, "2"]
+            with self.subTest(number), subprocess.Popen(command, stderr=subprocess.PIPE) as fleet, contextlib.ExitStack() as stack:
+                stack.callback(fleet.kill)
                 next(line for line in fleet.stderr if b"Ctrl+C" in line)
                 devices = pathlib.Path(f"/proc/{fleet.pid}/task/{fleet.pid}/children").read_text("ascii").split()
                 self.assertEqual(len(devices), 2)
