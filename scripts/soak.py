@@ -43,7 +43,7 @@ def value(master, position=PRESSURE):
 
 class Soak:
     def __init__(self):
-        harness.plug_in_card()
+        harness.add_interface()
         atexit.register(harness.open_display().terminate)
         self.simulator = harness.start(["--factorytech", "--sn", "ABC123"], {
             "QT_QPA_PLATFORM": "xcb", "QT_MESSAGE_PATTERN": "%{type} %{category}: %{message}"})
@@ -85,9 +85,9 @@ class Soak:
                 master.sendall(bytes.fromhex("0001 0000 0006 01 03 0000 FFFF"))
             self.ask()
 
-    def flap_cards(self):
+    def flap_interface(self):
         harness.shell("ip link delete lan; sleep 0.2")
-        harness.plug_in_card()
+        harness.add_interface()
 
     def change_language(self):
         url = b"sim://x/change_lang/" + random.choice([b"de_DE", b"en_GB", b"fr_FR", b"it_IT"])
@@ -98,7 +98,7 @@ class Soak:
         operate("end")
 
     STEPS = [(ask, 1), (write, 2), (come_and_go, 1), (discover, 2), (send_nonsense, 10), (change_language, 100),
-             (use_alarms, 200), (flap_cards, 300), (stall, 500)]
+             (use_alarms, 200), (flap_interface, 300), (stall, 500)]
 
     def descriptors(self):
         return len(os.listdir(f"/proc/{self.simulator.process.pid}/fd"))

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
-"""Every "console" command in the documentation does and prints what its page says; "..." stands for what varies."""
+"""Every "console" command in the documentation prints what its page says; "..." stands for what varies."""
 
 import doctest
 import os
@@ -23,7 +23,7 @@ TRACE = {"QT_LOGGING_RULES": "orvet.debug=true", "QT_MESSAGE_PATTERN": "%{time} 
 
 class Documentation(unittest.TestCase):
     def setUp(self):
-        harness.plug_in_card()
+        harness.add_interface()
         server = harness.open_display()
         self.addCleanup(server.communicate)
         self.addCleanup(server.terminate)
@@ -46,10 +46,10 @@ class Documentation(unittest.TestCase):
         else:
             simulator = harness.start(["--sn", "ABC123"], TRACE)
         try:
-            # A debug line: the environment's rules win over the program's own.
+            # A debug line: the environment's rules override the program's own.
             simulator.wait_for_log(' orvet: Orvet peer started on device "02:00:00:00:00:01"')
             with harness.connect() as master:
-                harness.ask(master, 3, "07F00002")  # the first answer takes longest: under Valgrind beyond clients' time-outs
+                harness.ask(master, 3, "07F00002")  # the first answer takes longest: under Valgrind beyond masters' time-outs
             for command, wanted in commands:
                 self.check(command, wanted, directory)
         finally:

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
-"""Every language has every text, finished, and no text that nothing asks for."""
+"""Every language has a finished translation of every text, and no unused one."""
 
 import json
 import os

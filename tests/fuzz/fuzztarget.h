@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 // SPDX-License-Identifier: MIT
 
-// All that a target needs beside its fuzz(); for the one source of the target. Without libFuzzer it replays a directory.
+// What a target needs besides its fuzz(), for its one source file. Without libFuzzer it replays a directory.
 
 #pragma once
 
@@ -12,7 +12,7 @@
 #include <cstring>
 #include <mutex>
 
-// Takes any bytes. Sanitizers speak up if it does not, and Q_ASSERT.
+// Has to accept any bytes. Sanitizers and Q_ASSERT report it when it does not.
 static void fuzz(const QByteArray &input);
 
 extern "C" int LLVMFuzzerTestOneInput(const char *data, size_t size)
@@ -46,7 +46,7 @@ struct FedSocket : public Socket
 {
     void feed(const QByteArray &input)
     {
-        QIODevice::close(); // drops what is left of the last input
+        QIODevice::close(); // drops the rest of the last input
         QIODevice::open(QIODevice::ReadWrite | QIODevice::Unbuffered);
         unread = input;
         answer.clear();

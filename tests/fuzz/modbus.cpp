@@ -8,7 +8,7 @@
 
 #include <QTcpSocket>
 
-// One read from a master, served by the device.
+// The bytes of one read from a master, served by the device.
 static void fuzz(const QByteArray &input)
 {
     SystemHelper::setSerialNumberOverride(QStringLiteral("ABC123"));
@@ -19,7 +19,7 @@ static void fuzz(const QByteArray &input)
 
     QByteArray request = input;
     if (request.size() > 11 && request.at(7) == 3 && request.mid(10, 2) != "\xff\xff") {
-        request[10] = 0; // long answers take milliseconds each, so of them there is only the longest
+        request[10] = 0; // long answers take milliseconds each, so only the longest stays
         request[11] = static_cast<char>(input.at(11) & 31);
     }
     slave->m_registers = registers; // as after start-up, whatever the last input wrote

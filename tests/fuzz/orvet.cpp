@@ -4,7 +4,7 @@
 #include "common/orvet/orvetpeerpackets.h"
 #include "fuzztarget.h"
 
-// One datagram of the discovery protocol, whichever socket it comes to.
+// One datagram of the discovery protocol, on either socket.
 static void fuzz(const QByteArray &input)
 {
     OrvetPackets::wantedHardwareAddress(input);

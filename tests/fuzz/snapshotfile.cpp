@@ -7,14 +7,14 @@
 
 #include <QTemporaryFile>
 
-// Qt's JSON parser forgets to free an object or list when its member appears once more.
+// Qt's JSON parser leaks an object or list whose member appears again.
 // NOLINTNEXTLINE(bugprone-reserved-identifier): the sanitizer looks for this name.
 extern "C" const char *__lsan_default_suppressions()
 {
     return "leak:libQt5Core.so";
 }
 
-// The whole file of the settings; what was read of it can be written again.
+// The whole settings file. What was read of it can be written again.
 static void fuzz(const QByteArray &input)
 {
     static QTemporaryFile file;

@@ -6,7 +6,7 @@
 
 #include <QDataStream>
 
-// One "binary://" value of the settings, freed from its Base64; what was read can be written again.
+// One "binary://" value of the settings, decoded from Base64. What was read can be written again.
 static void fuzz(const QByteArray &input)
 {
     double budget = snapshotBudget;

@@ -30,7 +30,7 @@ def wait_until(condition, what):
         if result:
             return result
         time.sleep(0.02)
-    raise AssertionError(f"waited {DEADLINE} s in vain for {what}")
+    raise AssertionError(f"waited {DEADLINE} s for {what}")
 
 
 def require_namespaces():
@@ -44,14 +44,14 @@ def shell(script):
     subprocess.run(["sh", "-ec", script], check=True)
 
 
-def plug_in_card():
-    """Gives this host a network interface "lan", 192.168.7.1 with hardware address 02:00:00:00:00:01."""
+def add_interface():
+    """Adds a network interface "lan", 192.168.7.1, with the hardware address 02:00:00:00:00:01."""
     shell("ip link add lan address 02:00:00:00:00:01 type veth peer name wire; ip link set wire up;"
           "ip link set lan up; ip address add 192.168.7.1/24 dev lan")
 
 
 class Host:
-    """A network namespace of its own. Sockets, commands and simulators made in "with" belong to it."""
+    """A network namespace. Sockets, commands and simulators created inside "with" belong to it."""
 
     def __init__(self):
         self._enter = ctypes.CDLL(None).setns
@@ -68,7 +68,7 @@ class Host:
 
 
 def open_display():
-    """The server of a screen on which windows appear from now on; to be terminated."""
+    """Starts a virtual screen, on which windows appear from now on. The caller terminates it."""
     server = subprocess.Popen(["Xvfb", "-displayfd", "1"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
     os.environ["DISPLAY"] = ":" + server.stdout.readline().strip()
     return server
@@ -79,7 +79,7 @@ def command(*arguments, program="SIMULATOR"):
 
 
 def write_to_channel(message, directory=None):
-    """Connects to the single-instance channel, writes the bytes and hangs up; on Linux the program has then done so too."""
+    """Connects to the single-instance channel, writes the bytes and hangs up; on Linux it also waits until the program has."""
     if WINDOWS:
         subprocess.run(command(message.hex(), program="CHANNEL_WRITER"), check=True)
         return
@@ -92,7 +92,7 @@ def write_to_channel(message, directory=None):
 
 
 def connect():
-    """A master's connection, once the program serves."""
+    """A master's connection, as soon as the program accepts it."""
     def attempt():
         try:
             return socket.create_connection(("127.0.0.1", 502), DEADLINE)
@@ -122,7 +122,7 @@ class Simulator:
         assert text in self.log(), f"ended with {self.process.poll()} without {text!r}:\n{self.log()}"
 
     def stop(self):
-        """Ends the program, which must do so cleanly (a leak checker speaks up here); once is enough."""
+        """Ends the program, which has to end cleanly: this is where a leak checker reports. May be called again."""
         if self.process.returncode is None:
             assert self.process.poll() is None, f"ended on its own with {self.process.poll()}:\n{self.log()}"
             if not WINDOWS:  # a request to terminate during start-up ends it at once
@@ -133,7 +133,7 @@ class Simulator:
 
 
 def start(arguments=(), environment=None):
-    """Starts the program with the arguments and additional environment; returns once it is under way."""
+    """Starts the program with these arguments and additions to the environment; returns once it has begun."""
     simulator = Simulator(arguments, environment or {})
     try:
         simulator.wait_for_log("Configuration base path: ")
@@ -144,7 +144,7 @@ def start(arguments=(), environment=None):
 
 
 class TestCase(unittest.TestCase):
-    """Ends cleanly what it starts, with masters connected."""
+    """Ends the programs it starts, which have to end cleanly even with masters connected."""
 
     def start(self, *arguments, environment=None):
         simulator = start(arguments, environment)

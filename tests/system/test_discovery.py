@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
 
-"""Another host, connected to this one by a bridge, discovers the running program."""
+"""Another host, connected by a bridge, discovers the running program."""
 
 import socket
 import struct
@@ -28,12 +28,12 @@ class OtherHost(harness.Host):
             harness.shell("ip link add lan type bridge; ip address add 192.168.7.9/24 dev lan; ip link set lan up;"
                           "ip route add default dev lan")
 
-    def plug_in(self, card):
-        harness.shell(f"ip link add card{card} address 02:00:00:00:00:0{card} type veth peer port{card} "
-                      f"netns {self.path}; ip address add 192.168.7.{card}/24 dev card{card}; ip link set card{card} up")
+    def connect(self, number):
+        harness.shell(f"ip link add lan{number} address 02:00:00:00:00:0{number} type veth peer port{number} netns {self.path};"
+                      f"ip address add 192.168.7.{number}/24 dev lan{number}; ip link set lan{number} up")
         with self:
-            harness.shell(f"ip link set port{card} master lan up")
-        harness.shell(f"until ip link show card{card} | grep -q 'state UP'; do sleep 0.1; done")
+            harness.shell(f"ip link set port{number} master lan up")
+        harness.shell(f"until ip link show lan{number} | grep -q 'state UP'; do sleep 0.1; done")
 
     def bind(self, port):
         with self:
@@ -47,15 +47,15 @@ class OtherHost(harness.Host):
 class Discovery(harness.TestCase):
     def test_device_is_found_on_two_interfaces(self):
         host = OtherHost()
-        host.plug_in(1)
-        host.plug_in(2)
-        harness.shell("ip route add default via 192.168.7.9")  # with a bare default route Wine finds no interfaces at all
+        host.connect(1)
+        host.connect(2)
+        harness.shell("ip route add default via 192.168.7.9")  # without a gateway Wine finds no interfaces
         self.start("--sn", "ABC123").wait_for_log('Added port for device "02:00:00:00:00:02"')
         with host, socket.socket(socket.AF_INET, socket.SOCK_RAW, socket.IPPROTO_UDP) as sender:
-            sender.sendto(struct.pack(">4H", 9, 45123, 208, 1) + b"D" * 200, ("192.168.7.1", 0))  # damaged on its way
+            sender.sendto(struct.pack(">4H", 9, 45123, 208, 1) + b"D" * 200, ("192.168.7.1", 0))  # damaged on the way
         harness.wait_until(wrong_checksums, "the datagram with the wrong checksum")
 
-        # The loopback interface stands for all interfaces: it hears the request on each and answers with no address.
+        # The loopback interface stands for all of them: it hears the request on each and answers without an address.
         expected = [b"d 00:00:00:00:00:00 0.0.0.0" + TITLE] * 2
         expected += [b"d 02:00:00:00:00:0%d 192.168.7.%d" % (number, number) + TITLE for number in (1, 2)]
         expected += [b"g 02:00:00:00:00:01" + PROPERTIES]

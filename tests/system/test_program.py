@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
-"""The built program as its user meets it."""
+"""The built program from its user's point of view."""
 
 import json
 import os
@@ -17,7 +17,7 @@ CONFIGURATION = pathlib.Path(os.environ["PROGRAMDATA"], "Pelmora/Ravel Monitor O
 
 
 def send_url(url):
-    """Hands a URL to the running instance: one byte array behind its 32-bit length."""
+    """Hands a URL to the running instance: its 32-bit length, then its bytes."""
     harness.write_to_channel(struct.pack(">I", len(url)) + url)
 
 
@@ -52,7 +52,7 @@ class Program(harness.TestCase):
         for option, code, answer in [("--help", 0, "--factorytech"), ("--odd", 1, "'odd'")]:
             command = ["script", "-qec", shlex.join(harness.command(option)), "/dev/null"]
             done = subprocess.run(command, stdout=subprocess.PIPE, text=True, timeout=harness.DEADLINE, check=False)
-            self.assertIn(answer, re.sub("\x1b.*?[a-zA-Z]", "", done.stdout))  # without what moves the cursor
+            self.assertIn(answer, re.sub("\x1b.*?[a-zA-Z]", "", done.stdout))  # without control sequences
             self.assertEqual(done.returncode, code)
 
     def test_second_instance(self):
@@ -82,7 +82,7 @@ class Program(harness.TestCase):
             self.addCleanup(program.terminate)
             master = self.connect()
             program.stdout.close()
-            self.assertEqual(harness.ask(master, 3, "00000001").hex(), "020000")  # register 0 is worth a warning
+            self.assertEqual(harness.ask(master, 3, "00000001").hex(), "020000")  # reading register 0 logs a warning
             program.terminate()
         self.assertEqual(program.returncode, 0)
 

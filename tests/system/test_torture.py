@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
 
-"""What the system denies the running program and what its masters demand: it says so, lives on and serves again."""
+"""The system refuses resources, and masters misbehave: the program logs it, keeps running and serves again."""
 
 import contextlib
 import ctypes
@@ -42,14 +42,14 @@ def taken(kind, *ports):
 
 @contextlib.contextmanager
 def disk(options, script):
-    """A file system of its own below the configuration directory, in which the script runs."""
+    """Runs the script in a separate file system that holds the configuration directory."""
     harness.shell(f'mount -t tmpfs {options} none "$PROGRAMDATA"; cd "$PROGRAMDATA"; mkdir -p "{CONFIGURATION}"; {script}')
     yield
     harness.shell('umount "$PROGRAMDATA"')
 
 
 def close_window(window):
-    """What the close button on its frame does."""
+    """Does what the close button in its frame does."""
     x11 = ctypes.CDLL("libX11.so.6")
     x11.XOpenDisplay.restype = ctypes.c_void_p
     display = ctypes.c_void_p(x11.XOpenDisplay(None))
@@ -75,7 +75,7 @@ class Torture(harness.TestCase):
                 (disk("", f'mkdir "{CONFIGURATION}/sn_cache"'), unreadable, True),
                 (disk("", f'cd "{CONFIGURATION}"; mkfifo "${{PWD##*/}}.json"; ln -s /dev/zero sn_cache'), special, True)]:
             if harness.WINDOWS and line == special:
-                continue  # where files are not special
+                continue  # has no special files
             with self.subTest(line):
                 with cause:
                     self.check_one_run(served).wait_for_log(line)
@@ -94,36 +94,36 @@ class Torture(harness.TestCase):
         simulator = self.start()
         simulator.wait_for_log("Successfully set language")
         harness.shell("ip link set lo up")
-        harness.plug_in_card()
+        harness.add_interface()
         with socket.create_connection(("192.168.7.1", 502), harness.DEADLINE) as master:
             self.check_served(master)
 
-    @unittest.skipIf(harness.WINDOWS, "sets no such limit")
-    def test_descriptors_are_few(self):
-        with unittest.mock.patch.dict(os.environ, SIMULATOR_LAUNCHER="prlimit --nofile=32:64"):  # it raises the limit
+    @unittest.skipIf(harness.WINDOWS, "Windows has no such limit")
+    def test_few_descriptors(self):
+        with unittest.mock.patch.dict(os.environ, SIMULATOR_LAUNCHER="prlimit --nofile=32:64"):  # the program raises the limit to 64
             simulator = self.start()
         simulator.wait_for_log("Added port for device")
-        for _ in range(2):  # a sanitizer wants a descriptor to look at an object for the first time
+        for _ in range(2):  # a sanitizer needs a descriptor when it sees an object for the first time
             harness.write_to_channel(b"\0\0\0\x01x")
-        # Started: no descriptor is needed but for masters.
+        # From now on only masters need descriptors.
         harness.wait_until(lambda: simulator.log().count("Could not interpret URL") == 2, "two messages")
         resource.prlimit(simulator.process.pid, resource.RLIMIT_NOFILE, (8, 64))
         with self.connect() as first:
             simulator.wait_for_log("Could not accept a Modbus master:")
             resource.prlimit(simulator.process.pid, resource.RLIMIT_NOFILE, (64, 64))
             self.assertRaises(ConnectionResetError, first.recv, 1)
-        for _ in range(40):  # who has left does not count
+        for _ in range(40):  # masters that have left do not count
             self.connect().close()
         masters = [self.connect() for _ in range(64)]
         simulator.wait_for_log("Further Modbus masters have to wait, connected are 16")
         for master in masters:
-            master.sendall(READ_PRESSURE)  # also those that have to wait
+            master.sendall(READ_PRESSURE)  # also those that have to wait for a place
         for master in masters:
             self.assertEqual(master.recv(1024)[8:].hex(), PRESSURE)
             master.close()
 
     def test_window_is_operated_and_closed(self):
-        if not harness.WINDOWS:  # which always has a screen
+        if not harness.WINDOWS:  # where there is always a screen
             server = harness.open_display()
             self.addCleanup(server.communicate)
             self.addCleanup(server.terminate)
@@ -155,12 +155,12 @@ class Torture(harness.TestCase):
 
     def test_masters_that_do_not_read(self):
         simulator = self.start()
-        self.check_served(self.connect())  # it serves
+        self.check_served(self.connect())
         stalls.measure(stalls.NEIGHBOURS, 5)
         self.assertNotIn("Write timeout.", simulator.log())
 
     @unittest.skipIf(harness.WINDOWS, "knows no signals")
-    def test_terminated_during_start_up(self):
+    def test_termination_during_start_up(self):
         path = os.path.join(os.environ["HOME"], "RavelMonitorOrbisSimulator")
         with socket.socket(socket.AF_UNIX) as listener, socket.socket(socket.AF_UNIX) as only_place:
             listener.bind(path)
@@ -181,9 +181,9 @@ class Torture(harness.TestCase):
             program.send_signal(signal.SIGINT)
             for _ in range(3):
                 self.check_served(master)
-            master.sendall(READ_EVERYTHING)  # and now nobody reads its log
+            master.sendall(READ_EVERYTHING)  # from now on nobody reads the log
             next(line for line in program.stdout if b"No register set" in line)
-            # More than once: a request that meets one still on its way is lost.
+            # More than once: a signal sent while another one is pending is lost.
             harness.wait_until(lambda: program.terminate() or program.poll(), "the end")
         self.assertEqual(program.returncode, -signal.SIGTERM)
 
@@ -198,10 +198,10 @@ class Torture(harness.TestCase):
                 self.check_served(master)
                 time.sleep(0.01)
 
-        with self.subTest("connections that come and go"):
+        with self.subTest("masters come and go"):
             descriptors = f"/proc/{simulator.process.pid}/fd"  # under Wine only those of "launch"
             before = len(os.listdir(descriptors))
             for _ in range(200):
-                with harness.connect() as guest:
-                    self.check_served(guest)
-            harness.wait_until(lambda: len(os.listdir(descriptors)) == before, "the descriptors of gone masters")
+                with harness.connect() as another:
+                    self.check_served(another)
+            harness.wait_until(lambda: len(os.listdir(descriptors)) == before, "closing the descriptors of masters that left")

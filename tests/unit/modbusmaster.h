@@ -29,7 +29,7 @@ public:
         }
     }
 
-    // What comes back for a frame; as much as there is after 5 s.
+    // The answer to a frame, or what has come of it within 5 s.
     QByteArray exchange(const QByteArray &request, int answerSize)
     {
         write(QByteArray::fromHex(request));
@@ -37,13 +37,13 @@ public:
         return readAll();
     }
 
-    // Until so many bytes are there; no longer than 5 s without any.
+    // Until so many bytes have arrived, or none for 5 s.
     void waitFor(int size)
     {
         while (bytesAvailable() < size && QSignalSpy(this, &QTcpSocket::readyRead).wait()) { }
     }
 
-    // Data of the answer to one request.
+    // The data in the answer to one request.
     QByteArray ask(quint8 functionCode, const QByteArray &data)
     {
         return exchange("0001 0000 0006 01" + QByteArray(1, static_cast<char>(functionCode)).toHex() + data, 8).mid(8);
@@ -52,10 +52,10 @@ public:
 
 // Plays the steps of a conversation with a device in this thread:
 //   > bytes        the master sends them, and the device reads them at once
-//   < bytes        are what comes back next
+//   < bytes        come back next
 //   read, written  is what the device reports next
 //   ! type text    a line that the next step logs
-//   swing number   takes the device's simulation to these milliseconds of a swing, and halts it there
+//   swing number   moves the simulation to this many milliseconds of a swing and pauses it there
 //   slot [number]  calls the device's slot
 inline void play(const QList<DataLine> &steps, ModbusMaster &master, QObject *device, QStringList *reports)
 {
@@ -65,7 +65,7 @@ inline void play(const QList<DataLine> &steps, ModbusMaster &master, QObject *de
         if (verb == ">"_s) {
             QSignalSpy read(device->findChild<ModbusConnections *>(), &ModbusConnections::requestReceived);
             master.write(bytes);
-            QVERIFY2(read.wait(), qPrintable(step.failure("to be read"_s, "nothing"_s)));
+            QVERIFY2(read.wait(), qPrintable(step.failure("the device reads a request"_s, "nothing"_s)));
         } else if (verb == "<"_s) {
             master.waitFor(bytes.size());
             const QByteArray answer = master.read(bytes.size());

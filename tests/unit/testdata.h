@@ -24,7 +24,7 @@ struct DataLine
     QString text;
     QString verb() const { return text.section(u' ', 0, 0); }
     QString rest() const { return text.section(u' ', 1); }
-    // What to say when something else than expected came of it.
+    // The message for a step with an unexpected outcome.
     QString failure(const QString &expected, const QString &actual) const
     {
         return QStringList({place, "step:     "_s + text, "expected: "_s + expected, "actual:   "_s + actual}).join("\n   "_s);
@@ -58,7 +58,7 @@ inline QStringList dataLines(const char *name)
     return texts;
 }
 
-// Each line is a row of fields between "|".
+// Each line is a row of fields separated by "|".
 inline QList<QStringList> dataTable(const char *name)
 {
     QList<QStringList> rows;
@@ -94,7 +94,7 @@ inline void addRows(const char *name)
     }
 }
 
-// "! warning TEXT" in any table, or critical: the next step logs it.
+// "! warning TEXT" or "! critical TEXT" in any table: the next step logs this line.
 inline void expectMessage(const DataLine &step)
 {
     const QString type = step.rest().section(u' ', 0, 0);

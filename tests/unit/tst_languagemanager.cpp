@@ -19,11 +19,11 @@ class TestLanguageManager : public QObject
     Q_OBJECT
 
 public:
-    // Before Qt looks at the environment: the system speaks a German that is an hour ahead of UTC.
+    // Before Qt reads the environment: a system in Austrian German, an hour ahead of UTC.
     static void initMain()
     {
         qputenv("LC_ALL", "de_AT.UTF-8");
-        qputenv("LANG", "de_AT.UTF-8"); // which is what counts on Windows
+        qputenv("LANG", "de_AT.UTF-8"); // the one that counts on Windows
         qputenv("TZ", "UTC-1");
     }
 
@@ -50,7 +50,7 @@ private slots:
         provide({"de_DE"_s, "de_AT"_s, "en_GB"_s, "../qt/qt_de"_s, "../unvisited/fr_FR"_s});
         QFile empty(m_path + "/empty.qm"_s);
         QVERIFY(empty.open(QIODevice::WriteOnly));
-        empty.write(QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd")); // nothing but the signature of .qm files
+        empty.write(QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd")); // only the signature of .qm files
         empty.close();
         QVERIFY(QFile::copy(QStringLiteral(TEST_DATA "/translation.ts.in"), m_path + "/text.qm"_s));
         for (const QString &line :
@@ -97,7 +97,7 @@ private slots:
         }
 
         for (QTranslator *translator : manager->findChildren<QTranslator *>()) {
-            QVERIFY(!translator->load(QString())); // leaves it empty, and an empty one is not installed
+            QVERIFY(!translator->load(QString())); // leaves it empty, and empty translators are not installed
         }
         QTest::ignoreMessage(QtWarningMsg, "Failed to install new translator.");
         manager->setLanguage("de_DE"_s);
@@ -127,7 +127,7 @@ private slots:
     }
 
 private:
-    // Each stem.qm, put into the search path, translates "Hallo" into its own stem, and this into "found".
+    // Puts each stem.qm into the search path. It translates "Hallo" into its stem, and the stem into "found".
     void provide(const QStringList &stems)
     {
         for (const QString &stem : stems) {
@@ -137,7 +137,7 @@ private:
         }
     }
 
-    // The language that a manager starts with, which is then both installed and stored.
+    // The language that a manager starts with, or "none" unless it is both installed and stored.
     QString choice(const QStringList &available, const QString &stored)
     {
         init();

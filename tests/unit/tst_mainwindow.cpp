@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 // SPDX-License-Identifier: MIT
 
-// The operator's window and the alarm catalogue behind its pickers, with the translations that the build
-// made.
+// The operator's window and the alarm catalogue behind its pickers, with the translations from this build.
 
 #include "common/i18n/languagemanager.h"
 #include "common/other/unifiedstorage.h"
@@ -20,7 +19,7 @@ class MarkupTranslator : public QTranslator
     QString translate(const char *, const char *, const char *, int) const override { return "<b>Text"_s; }
 };
 
-// Whether every entry fits into the list, closed and open.
+// Whether every entry fits into the list, both closed and open.
 static bool isReadable(QComboBox *list)
 {
     list->showPopup();
@@ -86,7 +85,7 @@ private slots:
                     QVERIFY2(value == rest, qPrintable(step.failure(rest, value)));
                 }
             }
-            QCoreApplication::processEvents(); // a change of the language reaches the window by one
+            QCoreApplication::processEvents(); // a change of language reaches the window as an event
         }
         QCOMPARE(m_emissions, QStringList());
     }
@@ -116,7 +115,7 @@ private slots:
     }
     void widths()
     {
-        // A list that came up before it was filled stayed too narrow to tell alarms apart.
+        // A list that was shown before it was filled stayed too narrow to tell alarms apart.
         QFETCH(QString, style);
         QFETCH(bool, running);
         QApplication::setStyle(style);
@@ -131,10 +130,9 @@ private slots:
 
     void catalogue()
     {
-        // Without a translation the catalogue's own messages show, the later row of a signature in place of the
-        // earlier.
+        // Without a translation the catalogue's own messages are shown. Of rows with the same signature the last one counts.
         delete m_languages;
-        QApplication::setFont(QFont(QFont().family(), 16)); // with which some entries are too long, on any platform
+        QApplication::setFont(QFont(QFont().family(), 16)); // so large that some entries are too long on any platform
         m_window->setAlarmSelectionEnabled(true);
         const auto *alarms = m_window->findChild<QComboBox *>("alarmList"_s);
         QStringList entries;
@@ -158,7 +156,7 @@ private slots:
     }
 
 private:
-    // A window in this language, whose signals are recorded.
+    // A window in this language. Its signals are recorded.
     void open(const QString &language)
     {
         m_languages->setLanguage(language);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 // SPDX-License-Identifier: MIT
 
-// Masters that come, go, crowd and do not read, on a server that answers each request with a number of bytes.
+// Masters that come and go, crowd the server or do not read. Each request gets the same answer.
 
 #include "common/helpers/networkhelper.h"
 #include "modbusmaster.h"
@@ -59,8 +59,8 @@ private slots:
 
     void cleanup() { delete m_connections; }
 
-    // More than a turn of the event loop serves. Each has sent its request, and every other has left, before its
-    // connection is accepted. Without an answer the system does not tell of those once more.
+    // More masters than the server accepts in one turn of the event loop. All have sent a request, and every other one has left,
+    // before their connections are accepted. Without an answer the system reports those that left only once.
     void crowd()
     {
         m_answer.clear();
@@ -76,7 +76,7 @@ private slots:
         QTRY_COMPARE(m_received.size(), 200);
         QTRY_COMPARE(sockets().size(), 100);
 
-        // Now all those that stayed are ready at once.
+        // All that stayed have data at once.
         for (std::size_t i = 1; i < masters.size(); i += 2) {
             masters.at(i)->write("y");
             QVERIFY(masters.at(i)->waitForBytesWritten());
@@ -86,7 +86,7 @@ private slots:
         QTRY_VERIFY(sockets().isEmpty());
     }
 
-    // Long requests of three masters wait for a turn each, and what these send next waits behind them.
+    // Three masters' long requests are served one a turn, after short ones. What these masters send next waits for that.
     void longRequestsComeLast()
     {
         std::array<ModbusMaster, 4> masters{ModbusMaster(port()), ModbusMaster(port()), ModbusMaster(port()), ModbusMaster(port())};
@@ -110,10 +110,10 @@ private slots:
         QCOMPARE(m_received.count("next"), 3);
     }
 
-    // Windows gives a port back only when the last connection to it has ended.
+    // Windows releases a port only when its last connection has ended.
     void portIsKeptAfterError()
     {
-        const QPointer<QObject> former(m_connections->children().constLast()); // what listens
+        const QPointer<QObject> former(m_connections->children().constLast()); // the listening socket
         ModbusMaster before(port());
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Could not accept a Modbus master:"_s));
         emit m_connections->acceptError(QAbstractSocket::SocketResourceError);
@@ -136,7 +136,7 @@ private slots:
     }
 
 #ifndef Q_OS_WIN
-    // A read stops where urgent data was.
+    // A read ends where there was urgent data.
     void endsAfterUrgentData()
     {
         ModbusMaster master(port());
@@ -150,7 +150,7 @@ private slots:
     }
 #endif
 
-    // The one that is served first deletes the other, whose turn would be next.
+    // Serving the first master deletes the second, which would be next.
     void deletedWhileServed()
     {
         ModbusMaster one(port());
@@ -195,7 +195,7 @@ private slots:
         stuck.write("yz");
         QCOMPARE(other.exchange(request, answerSize).size(), answerSize);
 
-        // Fetching brings what was answered, then the answer to what waited meanwhile, as one request.
+        // Once it reads, it gets the answers held back, then one more: what it sent meanwhile counts as one request.
         stuck.setReadBufferSize(0);
         QByteArray fetched;
         connect(&stuck, &QIODevice::readyRead, this, [&] { fetched += stuck.readAll(); });

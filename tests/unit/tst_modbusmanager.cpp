@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 // SPDX-License-Identifier: MIT
 
-// The simulated device as a master sees it on port 502, with the operator's calls made directly.
+// The simulated device as a master sees it on port 502. The operator's actions are direct calls.
 
 #include "common/helpers/systemhelper.h"
 #include "modbusmanager.h"
@@ -32,7 +32,7 @@ private slots:
     void conversations()
     {
         QFETCH(QList<DataLine>, steps);
-        QStringList reports; // none, the manager keeps them to itself
+        QStringList reports; // none: the device reports nothing
         play(steps, *m_master, m_manager, &reports);
     }
 
@@ -56,7 +56,7 @@ private slots:
         const auto tick = text(103, 1005).toLongLong();
         QVERIFY(tick >= before && tick <= QDateTime::currentSecsSinceEpoch());
         const QByteArray lowHalf = QByteArray::number(tick, 16).right(4);
-        QCOMPARE(m_master->ask(3, "07DA 0002").toHex(), "04" + lowHalf + "0000"); // masters rely on the second register
+        QCOMPARE(m_master->ask(3, "07DA 0002").toHex(), "04" + lowHalf + "0000"); // masters rely on the 0
     }
 
     void portIsTaken()
@@ -66,7 +66,7 @@ private slots:
     }
 
 private:
-    int next() { return m_master->ask(3, "1F42 0002").mid(1, 2).toHex().toInt(nullptr, 16); } // number from the iterator
+    int next() { return m_master->ask(3, "1F42 0002").mid(1, 2).toHex().toInt(nullptr, 16); } // number that the iterator gives
     QString text(quint8 functionCode, int property)
     {
         const auto address = qToLittleEndian(static_cast<quint16>(2 * property));

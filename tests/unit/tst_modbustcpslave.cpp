@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 // SPDX-License-Identifier: MIT
 
-// Frames and handlers of the Modbus slave through a real socket.
+// The Modbus slave's frames and handlers over a real socket.
 
 #include "common/helpers/networkhelper.h"
 #include "common/modbus/protocoldataunit.h"
@@ -90,7 +90,7 @@ private slots:
         QTest::ignoreMessage(QtInfoMsg, "Read timeout.");
         QCOMPARE(NetworkHelper::receivePacket(m_master, &failed), QByteArray());
         QVERIFY(failed);
-        QTest::ignoreMessage(QtInfoMsg, "Write timeout."); // once its buffers are full
+        QTest::ignoreMessage(QtInfoMsg, "Write timeout."); // once the buffers are full
         failed = false;
         for (int i = 0; i < 100 && !failed; ++i) {
             NetworkHelper::sendPacket(peer, QByteArray(1000000, 'x'), &failed);

@@ -20,11 +20,11 @@ namespace {
 
 constexpr quint16 requestPort = 45123;
 constexpr quint16 responsePort = 45124;
-const QString card1 = "02:00:00:00:00:A1"_s;
-const QString card2 = "02:00:00:00:00:A2"_s;
+const QString interface1 = "02:00:00:00:00:A1"_s;
+const QString interface2 = "02:00:00:00:00:A2"_s;
 const QString loopback = "00:00:00:00:00:00"_s;
 
-// Wine, too, starts programs of the system below, but does not tell when they end.
+// A program under Wine can start the host's programs, too, but is not told when they end.
 bool run(const QString &script)
 {
     const QString done = qEnvironmentVariable("TMPDIR") + "/done"_s;
@@ -36,15 +36,15 @@ bool run(const QString &script)
     return QFile::exists(done);
 }
 
-// A broadcast also comes back to the sockets of the machine that sends it, so one machine is enough here.
-bool plugIn(int card)
+// The sender of a broadcast receives it, too, so one machine is enough here.
+bool plugIn(int number)
 {
-    return run("ip link add card%1 address 02:00:00:00:00:A%1 type veth peer far%1; ip link set far%1 up;"
-               "ip address add 192.168.1.1/24 dev card%1; ip link set card%1 up;"
-               "until ip link show card%1 | grep -q 'state UP'; do sleep 0.01; done"_s.arg(card));
+    return run("ip link add lan%1 address 02:00:00:00:00:A%1 type veth peer far%1; ip link set far%1 up;"
+               "ip address add 192.168.1.1/24 dev lan%1; ip link set lan%1 up;"
+               "until ip link show lan%1 | grep -q 'state UP'; do sleep 0.01; done"_s.arg(number));
 }
 
-// What arrives at a port from now on.
+// Receives what arrives at a port from now on.
 class Receiver : public QUdpSocket
 {
 public:
@@ -66,7 +66,7 @@ int socketsAfterCheck(OrvetPeerWorker &worker)
     return worker.findChildren<QUdpSocket *>().size();
 }
 
-// What is logged meanwhile.
+// The lines that are logged meanwhile.
 QStringList linesOf(const std::function<void()> &actions)
 {
     static QStringList lines;
@@ -107,7 +107,7 @@ private slots:
         qputenv("CLIENTNAME", "");
         qputenv("COMPUTERNAME", "PC1");
         QVERIFY(plugIn(1));
-        QVERIFY(m_sender.bind(QHostAddress("192.168.1.1"_s))); // sends through the card with this address
+        QVERIFY(m_sender.bind(QHostAddress("192.168.1.1"_s))); // sends through the interface with this address
         QCOMPARE(NetworkHelper::interfaceAddresses().constFirst().hardwareAddress, loopback);
     }
 
@@ -140,14 +140,14 @@ private slots:
             peer.discover();
             return requests.hasPendingDatagrams();
         };
-        QTRY_VERIFY(isHeard()); // once the card is open
+        QTRY_VERIFY(isHeard()); // once the interface has been found
         QCOMPARE(requests.next(), QByteArray("D anna@PC1"));
-        peer.echo(card2);
-        peer.get(card2);
-        peer.put(card2, "key"_s, "ä"_s);
-        peer.put(card2, {{"b"_s, "2"_s}, {"a"_s, "1"_s}});
-        peer.apply(card2, "key"_s, "%1"_s);
-        peer.apply(card2, {});
+        peer.echo(interface2);
+        peer.get(interface2);
+        peer.put(interface2, "key"_s, "ä"_s);
+        peer.put(interface2, {{"b"_s, "2"_s}, {"a"_s, "1"_s}});
+        peer.apply(interface2, "key"_s, "%1"_s);
+        peer.apply(interface2, {});
         for (const char *expected : {"G 02:00:00:00:00:A2", "P 02:00:00:00:00:A2 key=\xC3\xA4", "P 02:00:00:00:00:A2 a=1\nb=2",
                                      "A 02:00:00:00:00:A2 key=%1", "A 02:00:00:00:00:A2 "}) {
             QByteArray request;
@@ -156,7 +156,7 @@ private slots:
         }
     }
 
-    // What must stay unanswered is followed by a request whose answer then has to come first.
+    // Each request that must stay unanswered is followed by one whose answer has to come first.
     void answersOnTheWire()
     {
         Receiver responses(responsePort);
@@ -165,8 +165,8 @@ private slots:
         QVERIFY(worker.findChild<QTimer *>()->isActive());
         QCOMPARE(worker.findChild<QTimer *>()->interval(), 30000);
         QCOMPARE(socketsAfterCheck(worker), 4);
-#ifdef Q_OS_LINUX // Wine takes the one that comes for the one that went
-        QVERIFY(run("ip link delete card1"_s) && plugIn(1)); // away and back before anybody looked
+#ifdef Q_OS_LINUX // Wine takes the new interface for the old one
+        QVERIFY(run("ip link delete lan1"_s) && plugIn(1)); // gone and back between two checks
         QCOMPARE(socketsAfterCheck(worker), 4);
 #endif
         worker.setOrvetName("Box %3"_s);
@@ -192,7 +192,7 @@ private slots:
             answer = responses.next();
         });
         QCOMPARE(answer, QByteArray("d 02:00:00:00:00:A1 192.168.1.1\tBox %3\tLab"));
-        // By the card's socket and the one for all cards.
+        // By the interface's socket and by the one for all interfaces.
         QCOMPARE(lines, QStringList({"Received invalid request type."_s, "Received invalid request type."_s}));
     }
 
@@ -217,7 +217,7 @@ private slots:
         QCOMPARE(summary(discovered.first().first().value<OrvetInformation>()), "00:11:22:33:44:5f, 1.2.3.4, Box, Lab"_s);
         QCOMPARE(got.first().first().value<OrvetInformation>().properties, QVariantMap({{"a"_s, "1"_s}}));
 
-        // This thread stands still while the other one has a turn for each datagram.
+        // This thread runs no event loop while the other one reads each datagram.
         QTest::ignoreMessage(QtWarningMsg, "Dropping responses until those received are dealt with: 1000");
         discovered.clear();
         got.clear();
@@ -229,12 +229,12 @@ private slots:
         QTRY_COMPARE(discovered.count() + got.count(), 1000);
     }
 
-    void cardsComeAndGo()
+    void interfacesComeAndGo()
     {
         OrvetPeerWorker worker;
         worker.setHostEnabled(true);
         worker.setNetworkAddressState(loopback, false);
-        worker.setNetworkAddressState(card1, false);
+        worker.setNetworkAddressState(interface1, false);
         worker.start(1, 2);
         QCOMPARE(worker.value("addr1"_s), QString()); // only a start that finds an interface sets it
         QCOMPARE(socketsAfterCheck(worker), 0);
@@ -251,11 +251,11 @@ private slots:
                               "Bound response socket 192.168.1.1 to port 45124"_s,
                               "Added port for device 02:00:00:00:00:A2 with ip 192.168.1.1"_s}));
 #ifdef Q_OS_LINUX
-        QVERIFY(run("ss -Hlnu | grep -q %card2:45123"_s)); // and not the other card with this address
+        QVERIFY(run("ss -Hlnu | grep -q %lan2:45123"_s)); // and not to the other interface with this address
 #endif
-        worker.setNetworkAddressState(card1, true);
+        worker.setNetworkAddressState(interface1, true);
         QCOMPARE(socketsAfterCheck(worker), 4);
-        QVERIFY(run("ip address flush card1; ip address add 192.168.1.7/24 dev card1; ip link delete card2"_s) && plugIn(3));
+        QVERIFY(run("ip address flush lan1; ip address add 192.168.1.7/24 dev lan1; ip link delete lan2"_s) && plugIn(3));
         QCOMPARE(linesOfCheck(worker).filter(QRegularExpression("^(Add|Rem)"_s)),
                  QStringList({"Removed interface 02:00:00:00:00:A1"_s, "Added port for device 02:00:00:00:00:A1 with ip 192.168.1.7"_s,
                               "Added port for device 02:00:00:00:00:A3 with ip 192.168.1.1"_s, "Removed interface 02:00:00:00:00:A2"_s}));
@@ -266,13 +266,13 @@ private slots:
         worker.stop();
         QTest::ignoreMessage(QtCriticalMsg, R"(Failed sending discover request on device "02:00:00:00:00:A1")");
         worker.discover();
-        QVERIFY(run("ip link delete card3; ip address flush card1; ip address add 192.168.1.1/24 dev card1"_s));
-        QCOMPARE(linesOfCheck(worker), QStringList("Removed interface 02:00:00:00:00:A3"_s)); // whose sockets are gone already
+        QVERIFY(run("ip link delete lan3; ip address flush lan1; ip address add 192.168.1.1/24 dev lan1"_s));
+        QCOMPARE(linesOfCheck(worker), QStringList("Removed interface 02:00:00:00:00:A3"_s)); // its sockets are gone already
         QCOMPARE(socketsAfterCheck(worker), 0);
         worker.stop();
     }
 
-    // Once all waiting datagrams were read in one go, and a flood held up every call queued to the thread.
+    // All waiting datagrams used to be read in one go, so that a flood held up every call queued to the thread.
     void queuedCallsOvertakeDatagrams()
     {
         OrvetPeerWorker worker;
@@ -288,7 +288,7 @@ private slots:
         for (int n = 0; n < 50; ++n) {
             broadcast(m_sender, "d 00:11:22:33:44:5F 1.2.3.4\tBox\tLab", responsePort);
         }
-        QTRY_COMPARE(reported, 2 * 50); // the card's socket and the one for all interfaces
+        QTRY_COMPARE(reported, 2 * 50); // by the interface's socket and by the one for all interfaces
         QVERIFY2(reportedBeforeCall < 50, qPrintable(QString::number(reportedBeforeCall)));
     }
 

@@ -43,7 +43,7 @@ private slots:
         QCOMPARE(SystemHelper::userAndComputerName(), fields.at(3));
     }
 
-#ifdef Q_OS_WIN // in the test's own installation of it
+#ifdef Q_OS_WIN // in the test's own Windows installation
     void registryAndRights()
     {
         QSettings registry("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Cryptography"_s, QSettings::NativeFormat);

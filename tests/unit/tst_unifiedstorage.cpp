@@ -34,7 +34,7 @@ class TestUnifiedStorage : public QObject
 private slots:
     void init() { m_storage.clear(); }
 
-    // What is read from a snapshot is written as it was. Its keys say what they hold.
+    // What is read from a snapshot is written back unchanged. Its keys describe their values.
     void snapshot()
     {
         QTest::ignoreMessage(QtWarningMsg, "Snapshot key \"mapped:///aQSizeb?%2\" is malformed.");
@@ -44,7 +44,7 @@ private slots:
         QCOMPARE(value("/moment, UTC"_s), QVariant(QDateTime({2020, 1, 1}, {1, 2, 3}, Qt::UTC)));
         QCOMPARE(streamed(value("/map"_s)), streamed(QVariantMap{{"k"_s, QVariantList{1.0, true}}}));
 
-        m_storage.store("/a%1b"_s, QSize(800, 600)); // the key's own marker takes the type's name
+        m_storage.store("/a%1b"_s, QSize(800, 600)); // the type's name replaces the key's own marker
         m_storage.store("/integer"_s, 5);
         m_storage.store("/long long"_s, Q_INT64_C(-9));
         m_storage.store("/texts"_s, QStringList("k"_s));
@@ -156,7 +156,7 @@ private slots:
         QCOMPARE(NetworkHelper::proxyFromSettings().port(), quint16(0));
     }
 
-    // Meant for ThreadSanitizer: the slots from several threads at once.
+    // For ThreadSanitizer: several threads call the slots at once.
     void threads()
     {
         constexpr int rounds = 200;
@@ -183,7 +183,7 @@ private slots:
     }
 
 private:
-    // Loads a snapshot in which "'" stands for a quotation mark.
+    // Loads a snapshot written with "'" for quotation marks.
     void load(QByteArray snapshot, bool keepCurrent = false)
     {
         snapshot.replace('\'', '"');

@@ -8,7 +8,7 @@
 #include <QLocalSocket>
 #include <QtTest>
 
-// As another process does it: on Windows a message has to be read before its sender goes on.
+// From another thread, as if from another process: on Windows the sender waits until its message is read.
 static bool send(UrlListenerPeer *peer, const QUrl &url, int times = 1)
 {
     int sent = 0;
@@ -42,14 +42,14 @@ private slots:
     }
 
     void messages_data() { addRows("messages.txt"); }
-    // Whatever one sender does, the next one is heard, and nothing of either is kept.
+    // Whatever one sender does, the next one is still heard, and nothing is left of either.
     void messages()
     {
         QFETCH(QList<DataLine>, steps);
         const QByteArray message = QByteArray::fromHex(steps.first().rest().toLatin1());
         const QStringList reported = steps.size() > 1 ? QStringList(steps.at(1).text) : QStringList();
         UrlListenerPeer peer(nullptr, "channel"_s);
-        QFile stale(QDir::temp().filePath("channel"_s)); // what a crashed instance leaves
+        QFile stale(QDir::temp().filePath("channel"_s)); // left by a crashed instance
         QVERIFY(stale.open(QIODevice::WriteOnly));
         peer.startServer();
         const auto *listener = peer.findChild<UrlListenerPeerPrivate *>();
@@ -68,7 +68,7 @@ private slots:
         QTRY_VERIFY(listener->m_server.findChildren<QLocalSocket *>().isEmpty());
     }
 
-    // Whoever has something to say is heard, however many others are silent.
+    // A sender with a message is heard, however many silent ones are connected.
     void crowd()
     {
         UrlListenerPeer peer(nullptr, "channel"_s);
@@ -78,14 +78,14 @@ private slots:
         std::array<QLocalSocket, 400> silent;
         for (QLocalSocket &sender : silent) {
             sender.connectToServer("channel"_s);
-#ifdef Q_OS_WIN // where few may wait for the listener
+#ifdef Q_OS_WIN // where the listener's queue is short
             QCoreApplication::processEvents();
 #endif
         }
         QVERIFY(send(&peer, QUrl("x:"_s), 200));
         QTRY_COMPARE_WITH_TIMEOUT(urls.count(), 200, 30000);
 
-        // The others are silent for too long.
+        // The silent ones time out.
         const auto *listener = peer.findChild<UrlListenerPeerPrivate *>();
         const auto silences = listener->m_server.findChildren<QTimer *>();
         QVERIFY(!silences.isEmpty() && silences.size() <= 256);

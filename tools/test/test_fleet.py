@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
-"""A fleet is found and read by a client beside it, and leaves nothing behind however it ends."""
+"""A fleet is found and read by a master beside it, and leaves nothing behind, however it ends."""
 
 import contextlib
 import os
@@ -17,7 +17,7 @@ harness.require_namespaces()
 
 ROOT = pathlib.Path(__file__).parents[2]
 FLEET = [sys.executable, "-B", ROOT / "tools/orbis-fleet.py"]
-CLIENT = [sys.executable, "-B", ROOT / "examples/read_fleet.py", "192.168.7.254"]
+MASTER = [sys.executable, "-B", ROOT / "examples/read_fleet.py", "192.168.7.254"]
 
 
 class Fleet(unittest.TestCase):
@@ -27,7 +27,7 @@ class Fleet(unittest.TestCase):
     def test_all_are_found_and_read(self):
         for options, number, pressure in (["20"], 20, "5.0"), (["--running", "--port-isolation", "3"], 3, r"[678]\.\d"):
             lines = [rf"192\.168\.4\.{n}  SN{n}  {pressure} bar\n" for n in range(1, number + 1)]
-            run = subprocess.run([*FLEET, *options, "--", *CLIENT], stdout=subprocess.PIPE, text=True, check=True)
+            run = subprocess.run([*FLEET, *options, "--", *MASTER], stdout=subprocess.PIPE, text=True, check=True)
             self.assertRegex(run.stdout, "^" + "".join(lines) + "$")
 
     def test_exit_codes(self):
@@ -50,6 +50,6 @@ class Fleet(unittest.TestCase):
                 self.assertEqual(len(devices), 2)
                 fleet.send_signal(number)
                 fleet.wait(harness.DEADLINE)
-                harness.wait_until(lambda: not any(os.path.exists(f"/proc/{device}/exe") for device in devices), "their end")
+                harness.wait_until(lambda: not any(os.path.exists(f"/proc/{device}/exe") for device in devices), "the devices to end")
                 folders = list(pathlib.Path(os.environ["TMPDIR"]).glob("orbis-fleet-*"))
                 self.assertEqual(len(folders), number == signal.SIGKILL)

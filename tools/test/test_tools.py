@@ -27,7 +27,7 @@ def start(*command, program=PROGRAM):
 
 
 def run(*command, **options):
-    """Exit code, output and errors. Also waits for whatever the command left running, which holds its output."""
+    """Exit code, output and errors. Also waits for processes that the command left running, which hold its output open."""
     process = start(*command, **options)
     output, errors = process.communicate(timeout=3 * harness.DEADLINE)
     return process.returncode, output, errors
@@ -38,7 +38,7 @@ class WithSimulator(unittest.TestCase):
         for command, code in {"exit 7": 7, "kill -KILL $$": 137, "exec /nowhere": 127, "sleep 1000 & true": 0}.items():
             self.assertEqual(run(WRAPPER, "sh", "-c", command)[0], code, command)
 
-    def test_what_is_no_device_of_its_own(self):
+    def test_device_that_does_not_answer_or_last(self):
         for program, complaint in {"false": "ended with 1", "/nowhere": "No such file",
                                    f"sh -c 'exec {PROGRAM} --sn OTHER'": "another device, OTHER, answers"}.items():
             code, output, errors = run(WRAPPER, "echo", "tested", program=program)
@@ -62,7 +62,7 @@ class WithSimulator(unittest.TestCase):
             process.send_signal(number)
             process.communicate(timeout=harness.DEADLINE)
             self.assertEqual(process.returncode, code)
-            harness.wait_until(lambda: subprocess.run(["pgrep", "-f", "sn MARKED"], check=False).returncode, "the end of all")
+            harness.wait_until(lambda: subprocess.run(["pgrep", "-f", "sn MARKED"], check=False).returncode, "all processes to end")
 
     def test_signal_at_any_stage_of_the_start(self):
         for stage in range(20):
@@ -92,13 +92,13 @@ class WithSimulator(unittest.TestCase):
 
 class FaultProxy(harness.TestCase):
     def test_discovery(self):
-        """Clients and devices have a network each, and the proxy a card in both."""
-        device, client = harness.Host(), harness.Host()
-        for host, card, number in (client, "near", 8), (device, "far", 7):
-            harness.shell(f"ip link add {card} type veth peer name card netns {host.path}; ip link set {card} up;"
-                          f"ip address add 192.168.{number}.254/24 dev {card}")
+        """Masters and devices have a network each, and the proxy an interface in both."""
+        device, master = harness.Host(), harness.Host()
+        for host, interface, number in (master, "near", 8), (device, "far", 7):
+            harness.shell(f"ip link add {interface} type veth peer name lan netns {host.path}; ip link set {interface} up;"
+                          f"ip address add 192.168.{number}.254/24 dev {interface}")
             with host:
-                harness.shell(f"ip link set lo up; ip address add 192.168.{number}.1/24 dev card; ip link set card up")
+                harness.shell(f"ip link set lo up; ip address add 192.168.{number}.1/24 dev lan; ip link set lan up")
         with device:
             simulator = self.start("--sn", "FAR")
         simulator.wait_for_log('with ip "192.168.7.1"')
@@ -106,6 +106,6 @@ class FaultProxy(harness.TestCase):
         for drop, seen in {0: "192.168.8.254 | Duo Orbis 7316-20 FAR | Orbis Simulator\n    dhcp=off", 1: "no device"}.items():
             _, output, errors = run(PROXY, f"--drop={drop}", "--duplicate=1", "--discovery=near=far",
                                     "192.168.8.254:502=192.168.7.1", "--",
-                                    "nsenter", f"--net={client.path}", "sh", "-c", visit)
+                                    "nsenter", f"--net={master.path}", "sh", "-c", visit)
             self.assertIn(seen, output + errors)
             self.assertEqual("[2032]: \t5" in output, drop == 0, errors)

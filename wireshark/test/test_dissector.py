@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
-"""Wireshark, with the dissector loaded, names what it finds in a capture of the running program."""
+"""With the dissector loaded, Wireshark explains a capture of the running program."""
 
 import os
 import pathlib
@@ -37,7 +37,7 @@ class Dissector(harness.TestCase):
                                 for number, name, storage, descriptor, value in rows])
 
     def test_capture(self):
-        harness.plug_in_card()
+        harness.add_interface()
         simulator = self.start("--sn", "ABC123")
         simulator.wait_for_log('with ip "192.168.7.1"')
         harness.connect().close()
@@ -50,7 +50,7 @@ class Dissector(harness.TestCase):
         file.write_bytes(packets)
         shown = subprocess.run([*SHOW, *(f"-e{field}" for field in FIELDS), "-r", file], check=True,
                                stdout=subprocess.PIPE).stdout.decode()
-        # Wireshark's own remark when the system picked an asker's port from those of traceroute.
+        # Wireshark's own remark when a master's port happens to be one of traceroute's.
         shown = re.sub(r"Possible traceroute[^|]*", "", shown)
-        # Of the Info column what the dissector adds; discovery's begins with who asks.
+        # Of the Info column only what the dissector adds; for discovery it begins with the sender.
         self.assertEqual(sorted(re.sub(r"[^|[]*(\[.*)?$", r"\1", line) for line in shown.splitlines()), sorted(EXPECTED))

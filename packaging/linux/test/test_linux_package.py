@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
-"""The Linux package runs from wherever it is unpacked, in an environment that nobody has prepared."""
+"""The Linux package runs from any directory, in an unprepared environment."""
 
 import os
 import pathlib

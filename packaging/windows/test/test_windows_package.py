@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
-"""Zip and installer for Windows, with nothing in reach but what they bring."""
+"""The zip and the installer for Windows, with only the libraries that they contain."""
 
 import os
 import pathlib
@@ -22,7 +22,7 @@ START_MENU_ENTRY = pathlib.Path(os.environ["PROGRAMDATA"],
 
 
 def run(*command):
-    """What Wine traced of a program and all that it started, once the last of them has ended."""
+    """Wine's trace of a program and everything it started, once the last process has ended."""
     done = subprocess.run([os.environ["SIMULATOR_LAUNCHER"], *map(str, command)], stderr=subprocess.PIPE, text=True,
                           env={**os.environ, "WINEDEBUG": "+process"}, timeout=harness.DEADLINE, check=True)
     subprocess.run(["wineserver", "--wait"], timeout=harness.DEADLINE, check=True)
@@ -30,7 +30,7 @@ def run(*command):
 
 
 def windows():
-    # Fails when a window vanishes while it looks.
+    # Fails when a window vanishes meanwhile.
     return subprocess.run("xwininfo -root -tree".split(), capture_output=True, text=True, check=False).stdout
 
 
@@ -60,7 +60,7 @@ class Package(harness.TestCase):
         self.assertEqual(loaded, expected)
         self.assertTrue((PROGRAM.parent / "docs/../examples/../wireshark/orbis.lua").exists())
 
-    def test_signed_installer_and_one_over_it(self):
+    def test_signed_installer_and_upgrade(self):
         here, key, stale = pathlib.Path(__file__).parent, SCRATCH / "key.pem", INSTALLED / "stale"
         subprocess.run([*MAKE_KEY.split(), "-keyout", key, "-out", key], check=True)
         subprocess.run(["cpack", "-G", "NSIS", "-B", SCRATCH, "--config", os.environ["CPACK_CONFIGURATION"],
@@ -99,7 +99,7 @@ class Package(harness.TestCase):
         self.assertAlmostEqual(widths[0] / widths[1], 2, delta=0.1)
 
     def test_double_click(self):
-        """The console that Windows opens with the program is minimised to its title bar; a click selects no text there."""
+        """The console that Windows opens with the program is minimised, and a click does not select text in it."""
         command = [os.environ["SIMULATOR_LAUNCHER"], "start.exe", "/wait", "/unix", str(PROGRAM)]
         trace = tempfile.TemporaryFile()
         self.addCleanup(trace.close)
@@ -111,4 +111,4 @@ class Package(harness.TestCase):
         subprocess.run(["wine", "taskkill", "/im", PROGRAM.name], check=True)
         self.assertEqual(starter.wait(harness.DEADLINE), 0)
         trace.seek(0)
-        self.assertIn(b"console_input_ioctl set 1b7 mode", trace.read())  # as it was but for 0x40
+        self.assertIn(b"console_input_ioctl set 1b7 mode", trace.read())  # the former mode without 0x40
