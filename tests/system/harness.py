@@ -91,11 +91,11 @@ def write_to_channel(message, directory=None):
         channel.recv(1)
 
 
-def connect():
+def connect(address="127.0.0.1"):
     """A master's connection, as soon as the program accepts it."""
     def attempt():
         try:
-            return socket.create_connection(("127.0.0.1", 502), DEADLINE)
+            return socket.create_connection((address, 502), DEADLINE)
         except OSError:
             return None
     return wait_until(attempt, "port 502")
@@ -151,7 +151,7 @@ class TestCase(unittest.TestCase):
         self.addCleanup(simulator.stop)
         return simulator
 
-    def connect(self):
-        master = connect()
+    def connect(self, *address):
+        master = connect(*address)
         self.addCleanup(master.close)
         return master

@@ -95,8 +95,7 @@ class Torture(harness.TestCase):
         simulator.wait_for_log("Successfully set language")
         harness.shell("ip link set lo up")
         harness.add_interface()
-        with socket.create_connection(("192.168.7.1", 502), harness.DEADLINE) as master:
-            self.check_served(master)
+        self.check_served(self.connect("192.168.7.1"))
 
     @unittest.skipIf(harness.WINDOWS, "Windows has no such limit")
     def test_few_descriptors(self):

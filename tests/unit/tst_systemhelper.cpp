@@ -23,6 +23,7 @@ private slots:
     void fallbackDirectory()
     {
         const QByteArray usual = qgetenv("PROGRAMDATA");
+        const QString usualDirectory = QDir::currentPath();
         QVERIFY(QDir::setCurrent(QDir::tempPath()));
         qputenv("PROGRAMDATA", "");
         SystemHelper::initializeConfigurationPath();
@@ -31,6 +32,7 @@ private slots:
         QVERIFY(fallback.exists());
         qputenv("PROGRAMDATA", usual);
         SystemHelper::initializeConfigurationPath();
+        QVERIFY(QDir::setCurrent(usualDirectory)); // to the drive with the test data, too
     }
 
     void userAndComputerName_data() { addTable("users.txt"); }
