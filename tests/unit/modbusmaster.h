@@ -73,7 +73,7 @@ inline void play(const QList<DataLine> &steps, ModbusMaster &master, QObject *de
                      qPrintable(step.failure(QString::fromLatin1(bytes.toHex(' ')), QString::fromLatin1(answer.toHex(' ')))));
         } else if (verb == "read"_s || verb == "written"_s) {
             const QString report = reports->isEmpty() ? "nothing"_s : reports->takeFirst();
-            QVERIFY2(report == step.text, qPrintable(step.failure(step.text, report)));
+            QVERIFY2(report == step.text.trimmed(), qPrintable(step.failure(step.text.trimmed(), report)));
         } else if (verb == "!"_s) {
             expectMessage(step);
         } else if (verb == "swing"_s) {

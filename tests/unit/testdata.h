@@ -22,17 +22,17 @@ struct DataLine
 {
     QString place;
     QString text;
-    QString verb() const { return text.section(u' ', 0, 0); }
-    QString rest() const { return text.section(u' ', 1); }
+    QString verb() const { return text.trimmed().section(u' ', 0, 0); }
+    QString rest() const { return text.trimmed().section(u' ', 1); }
     // The message for a step with an unexpected outcome.
     QString failure(const QString &expected, const QString &actual) const
     {
-        return QStringList({place, "step:     "_s + text, "expected: "_s + expected, "actual:   "_s + actual}).join("\n   "_s);
+        return QStringList({place, "step:     "_s + text.trimmed(), "expected: "_s + expected, "actual:   "_s + actual}).join("\n   "_s);
     }
 };
 Q_DECLARE_METATYPE(DataLine)
 
-inline QList<DataLine> placedLines(const char *name)
+inline QList<DataLine> dataLines(const char *name)
 {
     QFile file(QStringLiteral(TEST_DATA "/") + QLatin1String(name));
     if (!file.open(QIODevice::ReadOnly)) {
@@ -50,20 +50,12 @@ inline QList<DataLine> placedLines(const char *name)
     return lines;
 }
 
-inline QStringList dataLines(const char *name)
-{
-    QStringList texts;
-    const QList<DataLine> lines = placedLines(name);
-    std::transform(lines.begin(), lines.end(), std::back_inserter(texts), [](const DataLine &line) { return line.text; });
-    return texts;
-}
-
 // Each line is a row of fields separated by "|".
 inline QList<QStringList> dataTable(const char *name)
 {
     QList<QStringList> rows;
-    for (const QString &line : dataLines(name)) {
-        rows += line.split(QRegularExpression(" *\\| *"_s));
+    for (const DataLine &line : dataLines(name)) {
+        rows += line.text.split(QRegularExpression(" *\\| *"_s));
     }
     return rows;
 }
@@ -81,15 +73,11 @@ inline void addTable(const char *name)
 inline void addRows(const char *name)
 {
     QTest::addColumn<QList<DataLine>>("steps");
-    const QList<DataLine> lines = placedLines(name);
+    const QList<DataLine> lines = dataLines(name);
     const auto isTitle = [](const DataLine &line) { return !line.text.startsWith(u' '); };
     for (auto title = lines.begin(); title != lines.end();) {
         const auto next = std::find_if(title + 1, lines.end(), isTitle);
-        QList<DataLine> steps;
-        std::transform(title + 1, next, std::back_inserter(steps), [](const DataLine &line) {
-            return DataLine{line.place, line.text.trimmed()};
-        });
-        QTest::newRow(qPrintable(title->text)) << steps;
+        QTest::newRow(qPrintable(title->text)) << QList<DataLine>(title + 1, next);
         title = next;
     }
 }

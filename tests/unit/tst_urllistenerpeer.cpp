@@ -47,7 +47,7 @@ private slots:
     {
         QFETCH(QList<DataLine>, steps);
         const QByteArray message = QByteArray::fromHex(steps.first().rest().toLatin1());
-        const QStringList reported = steps.size() > 1 ? QStringList(steps.at(1).text) : QStringList();
+        const QStringList reported = steps.size() > 1 ? QStringList(steps.at(1).verb()) : QStringList();
         UrlListenerPeer peer(nullptr, "channel"_s);
         QFile stale(QDir::temp().filePath("channel"_s)); // left by a crashed instance
         QVERIFY(stale.open(QIODevice::WriteOnly));
