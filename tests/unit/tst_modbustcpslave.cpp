@@ -8,6 +8,7 @@
 #include "common/modbus/varnomodbustcpslave.h"
 #include "modbusmaster.h"
 
+#include <QLoggingCategory>
 #include <QTcpServer>
 
 class TestModbusTcpSlave : public QObject
@@ -15,6 +16,7 @@ class TestModbusTcpSlave : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { QLoggingCategory::setFilterRules("*.debug=false"_s); }
     void init()
     {
         m_slave = new VarnoModbusTcpSlave(this);
