@@ -113,7 +113,7 @@ private slots:
     void addressTexts()
     {
         QFETCH(QStringList, fields);
-        const QString text = fields.at(0);
+        const QString &text = fields.at(0);
         const QStringList meanings = fields.at(1).split(u' ');
         QCOMPARE(NetworkHelper::isValidMacAddress(text), meanings.contains("hardware"_s));
         QCOMPARE(NetworkHelper::isPlaceholderMacAddress(text), meanings.contains("placeholder"_s));
