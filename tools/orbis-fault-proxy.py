@@ -156,11 +156,11 @@ def reset(writer):
 class Discovery(Link):
     """Carries discovery from the masters' network interface to that of the devices, and the answers back."""
 
-    def __init__(self, cards, faults, addresses):
+    def __init__(self, interfaces, faults, addresses):
         super().__init__(None, faults)
         self.addresses = addresses  # of the devices; a master has to find the proxy there
-        clients, devices = cards
-        for direction, (source, sink) in {"requests": (clients, devices), "answers": (devices, clients)}.items():
+        masters, devices = interfaces
+        for direction, (source, sink) in {"requests": (masters, devices), "answers": (devices, masters)}.items():
             port = DISCOVERY_PORTS[direction]
             heard, said = datagrams(source, port), datagrams(sink, 0)
             asyncio.get_running_loop().add_reader(heard, self.carry, heard, said, port, direction)
@@ -174,11 +174,11 @@ class Discovery(Link):
             asyncio.get_running_loop().call_later(faults.pause(), said.sendto, data, ("255.255.255.255", port))
 
 
-def datagrams(card, port):
+def datagrams(interface, port):
     result = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
     result.setsockopt(socket.SOL_SOCKET, socket.SO_BROADCAST, 1)
     result.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)  # others on this computer may listen too
-    result.setsockopt(socket.SOL_SOCKET, socket.SO_BINDTODEVICE, card.encode())
+    result.setsockopt(socket.SOL_SOCKET, socket.SO_BINDTODEVICE, interface.encode())
     result.bind(("", port))
     return result
 
@@ -255,7 +255,7 @@ def parse():
         if not arguments.pairs and not arguments.discovery:
             raise ValueError("which PORT=DEVICE?")
         if arguments.discovery and arguments.discovery.count("=") != 1:
-            raise ValueError("--discovery takes CARD=CARD")
+            raise ValueError("--discovery takes INTERFACE=INTERFACE")
         return arguments, Faults(**{option.name: getattr(arguments, option.name) for option in dataclasses.fields(Faults)})
     except ValueError as error:
         return parser.error(str(error))
