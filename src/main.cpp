@@ -34,7 +34,7 @@ struct Options
 };
 
 // What start-up creates this way is never deleted: tearing the device down piece by piece at the end of the
-// process would only show its clients states that no real device has.
+// process would only show its masters states that no real device has.
 template <typename T>
 T *livesUntilExit()
 {
@@ -150,7 +150,7 @@ void connectParts(MainWindow *window, ModbusManager *engine)
                      window, SLOT(onUrlReceived(QUrl)));
 }
 
-// Nothing is connected to F12 and nothing is to be: the shortcut is only kept from reaching anybody else.
+// F12 is reserved. Nothing is connected to it, on purpose: the shortcut only keeps the key from other uses.
 void reserveShortcut(MainWindow *window)
 {
     auto *action = new QAction(window);

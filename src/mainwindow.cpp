@@ -21,7 +21,7 @@ namespace {
 
 constexpr int factoryTechnicianAccess = 4;
 
-// Keeps the window of a long-winded event on the screen.
+// In pixels: keeps the window on the screen, however long the text of an alarm is.
 constexpr int maximumEntryWidth = 500;
 
 void addItem(QComboBox *picker, const QString &itemText, const QVariant &data)

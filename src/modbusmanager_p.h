@@ -31,7 +31,7 @@ public:
     PropertyAnimationWrapper *m_wrapper = nullptr;
     QPropertyAnimation *m_animation = nullptr;
     bool m_stopped = false;
-    int alarmId = defaultAlarm.signature;
+    int alarmId = defaultAlarm.signature; // not what the property "Alarm_Id" holds
     int alarmImportance = defaultAlarm.importance;
     int alarmAction = defaultAlarm.action;
     ModbusManager *const q;

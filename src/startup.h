@@ -7,7 +7,7 @@
 namespace Startup {
 
 // Makes process and console fit for a program that runs for weeks. To be called before the application object
-// exists, as that chooses its event loop for good. Nothing of it is worth stopping for when it fails.
+// exists, as that chooses its event loop for good. A step that fails is not worth stopping for.
 void prepareProcess();
 
 // Has requests to terminate end the event loop. To be called right before it runs: until then nobody would

@@ -47,12 +47,12 @@ void requestTermination(int number)
 
 void Startup::prepareProcess()
 {
-    (void)std::signal(SIGPIPE, SIG_IGN); // whoever reads the log may leave
+    (void)std::signal(SIGPIPE, SIG_IGN); // the reader of the log may leave
     preferQtEventLoop();
     SystemHelper::raiseDescriptorLimit();
 }
 
-// What whoever started the program had it ignore stays ignored.
+// A signal that was ignored when the program started stays ignored.
 void Startup::leaveTerminationToEventLoop()
 {
     terminationEvent = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);

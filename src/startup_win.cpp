@@ -7,9 +7,9 @@
 
 namespace {
 
-// A click into a console selects its text, and whoever writes to the console then waits until the selection
-// is gone: the next log line would stop the device. A console that was opened for this program alone selects
-// nothing on a click; a shell's is left as it is.
+// A click into a console selects its text, and a process that writes to the console then waits until the
+// selection is gone: the next log line would stop the device. A console that was opened for this program
+// alone selects nothing on a click; a shell's is left as it is.
 void disableSelectionByClick()
 {
     const HANDLE input = GetStdHandle(STD_INPUT_HANDLE);

@@ -16,11 +16,12 @@ class QNetworkInterface;
 class QTcpServer;
 class QUdpSocket;
 
-// Stateless network operations: blocking transfer of one packet, validation of address texts.
+// Stateless network operations: transfer of one packet, listening and binding, the interfaces of this
+// machine, validation of address texts.
 //
-// The socket operations run in the thread that owns the socket and block it for at most 2 seconds. They
-// neither close nor abort the socket and throw nothing: a failure is reported in *error, unless that pointer
-// is null, and in a log line. The socket stays the caller's.
+// sendPacket() and receivePacket() run in the thread that owns the socket and block it for at most 2 seconds.
+// They neither close nor abort the socket and throw nothing: a failure is reported in *error, unless that
+// pointer is null, and in a log line. The socket stays the caller's.
 class NetworkHelper
 {
 public:

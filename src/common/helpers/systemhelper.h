@@ -47,7 +47,7 @@ public:
     // How many descriptors the process may open, sockets included.
     static int maximumDescriptors();
 
-    // How many of them the single-instance channel takes at the most.
+    // How many of them the single-instance channel takes at most.
     static int channelDescriptors();
 
     // Whether the process has administrator rights.

@@ -14,13 +14,13 @@
 
 namespace {
 
-// A request takes 260 bytes at the most; what a master sends beyond this is left to the next read.
+// A request takes at most 260 bytes; what a master sends beyond this is left to the next read.
 constexpr int readSize = 65536;
 
 // So few that masters which connect and leave at full speed are served and dropped as fast as they come.
 constexpr int acceptsPerTurn = 16;
 
-// Whatever a server lacked may be there again, and no try fills the log with warnings.
+// By then descriptors may be free again, and one warning a second does not flood the log.
 constexpr int restartDelayMs = 1000;
 
 // For the window, discovery and files, which hold 13 and two more for each interface; the single-instance
@@ -80,7 +80,7 @@ void ModbusConnections::incomingConnection(qintptr descriptor)
 
     // Qt's server spins when descriptors run out, and the single-instance channel closes for good. So masters
     // beyond the limit have to wait until others leave: with the system, where they hold no descriptor. With
-    // no pending connection allowed, Qt's server ends its loop over all that knock.
+    // no pending connection allowed, Qt's server stops accepting.
     if (++m_masters >= m_maximumMasters) {
         qCWarning(lcModbus) << "Further Modbus masters have to wait, connected are" << m_masters;
         setMaxPendingConnections(0);

@@ -12,13 +12,14 @@ class ModbusTcpSlavePrivate;
 //
 // Serves Read Holding Registers (3) and Write Multiple Registers (16) to any number of masters. One read from
 // a connection is one request frame: frames are not reassembled, so a master sends its next request after the
-// answer to the last. Nothing is ever answered with a Modbus exception: a register that was
-// never set reads as 0, and a malformed request gets no answer at all.
+// answer to the last. Nothing is ever answered with a Modbus exception: a register that was never set reads
+// as 0, and a malformed request gets no answer at all.
 //
 // Registers hold variants. Whatever a master writes becomes an int of 0..65535; of a number set from the
 // program a master reads the first 16 bits as memory holds them, of anything else 0.
 //
-// Everything, the blocking send of an answer included, happens on the thread that owns the object.
+// Everything happens on the thread that owns the object, and the rest of an answer that the system does not
+// take at once leaves with its event loop.
 class ModbusTcpSlave : public QObject
 {
     Q_OBJECT

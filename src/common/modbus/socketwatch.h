@@ -34,7 +34,7 @@ signals:
     // Something has arrived, but the system has no room for an answer. ready() follows when there is.
     void held(QAbstractSocket *socket);
 
-    // Something has arrived, be it the end of the connection, and an answer would be taken at once. Emitted
+    // Something has arrived, if only the end of the connection, and an answer would be taken at once. Emitted
     // once for what has arrived, whether the receiver reads it or not, and twice more with the end: a read
     // takes what has arrived, but stops at urgent data.
     void ready(QAbstractSocket *socket);
