@@ -80,23 +80,23 @@ class Link:
     def active(self, direction):
         return self.faults if self.faults.on in (direction, "both") else Faults()
 
-    async def serve(self, client, to_client):
+    async def serve(self, master, to_master):
         """Passes on between a master, which has just connected, and the device, until both have ended."""
         try:
             device, to_device = await asyncio.open_connection(*self.device)
         except OSError as error:
             print(f"{self.device[0]}: {error}", file=sys.stderr, flush=True)
-            reset(to_client)
+            reset(to_master)
             return
-        tasks = [*self.pass_on(client, to_device, "requests"), *self.pass_on(device, to_client, "answers")]
+        tasks = [*self.pass_on(master, to_device, "requests"), *self.pass_on(device, to_master, "answers")]
         try:
             await asyncio.gather(*tasks)
         except (Reset, OSError):
-            reset(to_client)
+            reset(to_master)
         finally:
             for task in tasks:
                 task.cancel()
-            to_client.close()
+            to_master.close()
             to_device.close()
 
     def pass_on(self, source, sink, direction):

@@ -31,7 +31,7 @@ from orbis_tools import ENDS, FAILURE, exit_code, fail, is_running, isolate, pro
 MOST = 1000  # a bridge has 1023 ports
 DEADLINE = 300  # seconds for a device to answer; a thousand of them start at once
 NETWORK = ipaddress.ip_network("192.168.4.0/22")
-CLIENT, CLIENT_CARD = "192.168.7.254", "02:00:00:00:FF:FF"
+CLIENT, CLIENT_MAC = "192.168.7.254", "02:00:00:00:FF:FF"
 # Some masters refuse addresses that end in 0 or 255.
 ADDRESSES = [str(host) for host in NETWORK.hosts() if host.packed[3] not in (0, 255) and str(host) != CLIENT]
 
@@ -64,7 +64,7 @@ class Device:
     def __init__(self, number, options, home, directory):
         self.address = ADDRESSES[number - 1]
         self.serial = f"{options.sn}{number}"
-        self._card = f"02:00:00:00:{number // 256:02X}:{number % 256:02X}"
+        self._mac = f"02:00:00:00:{number // 256:02X}:{number % 256:02X}"
         self._log = directory / "log"
         directory.mkdir()
         own = new_network()
@@ -78,14 +78,14 @@ class Device:
     def _plug_in(self, port, own, home, port_isolation):
         """Before the start: the program looks for interfaces then, and after that only twice a minute."""
         # Of a thousand devices not all would hear each other's ARP requests, and connecting would take seconds.
-        ip(f"link add card address {self._card} type veth peer name {port} netns /proc/{os.getpid()}/fd/{home}",
-           f"address add {self.address}/{NETWORK.prefixlen} dev card", "link set lo up",
-           "link set card up addrgenmode none",
-           f"neighbour add {CLIENT} lladdr {CLIENT_CARD} dev card nud permanent")
+        ip(f"link add eth0 address {self._mac} type veth peer name {port} netns /proc/{os.getpid()}/fd/{home}",
+           f"address add {self.address}/{NETWORK.prefixlen} dev eth0", "link set lo up",
+           "link set eth0 up addrgenmode none",
+           f"neighbour add {CLIENT} lladdr {CLIENT_MAC} dev eth0 nud permanent")
         enter(home)
         ip(f"link set {port} up addrgenmode none master lan",
            f"link set {port} type bridge_slave isolated {'on' if port_isolation else 'off'}",
-           f"neighbour add {self.address} lladdr {self._card} dev lan nud permanent")
+           f"neighbour add {self.address} lladdr {self._mac} dev lan nud permanent")
         enter(own)
 
     def _start(self, options, directory):
@@ -103,7 +103,7 @@ class Device:
             time.sleep(0.05)
 
     def is_ready(self):
-        return serial_number(self.address) == self.serial and self._card in self._log.read_text(errors="replace")
+        return serial_number(self.address) == self.serial and self._mac in self._log.read_text(errors="replace")
 
     def is_running(self):
         return is_running(self.address)
@@ -185,7 +185,7 @@ def start_simulations(devices, environment):
 
 
 def run(options):
-    ip("link set lo up", f"link add lan address {CLIENT_CARD} type bridge", "link set lan up addrgenmode none",
+    ip("link set lo up", f"link add lan address {CLIENT_MAC} type bridge", "link set lan up addrgenmode none",
        f"address add {CLIENT}/{NETWORK.prefixlen} dev lan")
     home = current_network()
     devices = []

@@ -175,8 +175,8 @@ function orbis.dissector(buffer, pinfo, tree)
     local unit = buffer:raw(6, size)
     local is_request = pinfo.dst_port == 502
     if not pinfo.visited then
-        local client = is_request and { pinfo.src, pinfo.src_port, pinfo.dst } or { pinfo.dst, pinfo.dst_port, pinfo.src }
-        follow(unit, pinfo, tostring(client[1]) .. " " .. client[2] .. " " .. tostring(client[3]), is_request)
+        local master = is_request and { pinfo.src, pinfo.src_port, pinfo.dst } or { pinfo.dst, pinfo.dst_port, pinfo.src }
+        follow(unit, pinfo, tostring(master[1]) .. " " .. master[2] .. " " .. tostring(master[3]), is_request)
     end
     if requests[pinfo.number] then
         show_request(requests[pinfo.number], pinfo, tree)
