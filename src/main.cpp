@@ -24,9 +24,6 @@
 
 namespace {
 
-constexpr quint16 orvetRequestPort = 45123;
-constexpr quint16 orvetResponsePort = 45124;
-
 struct Options
 {
     bool factoryTechnician = false;
@@ -134,7 +131,7 @@ void announceDevice()
     peer->setValue(QStringLiteral("REF"), DeviceIdentity::articleNumber);
     peer->setValue(QStringLiteral("REF_Name"), DeviceIdentity::deviceName);
     peer->setValue(QStringLiteral("PCB_SN"), SystemHelper::getIdentifier());
-    peer->start(orvetRequestPort, orvetResponsePort);
+    peer->start(OrvetPeer::defaultRequestPort, OrvetPeer::defaultResponsePort);
 }
 
 void connectParts(MainWindow *window, ModbusManager *engine)

@@ -27,6 +27,10 @@ public:
     // Nothing reports an error yet; failures are logged.
     enum OrvetError { NoError, BindError, SendError };
 
+    // The ports of the devices and of the software that looks for them.
+    static constexpr quint16 defaultRequestPort = 45123;
+    static constexpr quint16 defaultResponsePort = 45124;
+
     explicit OrvetPeer(QObject *parent = nullptr);
 
     // The device's own text under the key, empty when there is none. Waits until the discovery thread has

@@ -98,6 +98,7 @@ private:
     bool m_hostEnabled = false;
     QVector<Adapter> m_adapters; // one for each known hardware address
     QVector<OrvetProperty> m_properties;
-    quint16 m_requestPort = 45123;
-    quint16 m_responsePort = 45124;
+    // Those that start() was given, unless there was no interface then: in that case these stay.
+    quint16 m_requestPort = OrvetPeer::defaultRequestPort;
+    quint16 m_responsePort = OrvetPeer::defaultResponsePort;
 };
