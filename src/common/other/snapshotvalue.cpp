@@ -26,6 +26,23 @@ constexpr double maxPictureMemory = 32.0 * 1024 * 1024; // a 4K picture; read in
 constexpr double maxPatternSize = 1200; // QRegExp needs some 50 ms, with the cube of the size
 constexpr double maxGradientStops = 100000; // inserted one by one in 0.1 s, with the square of the number
 
+// What Qt writes of a fixed size, in bytes.
+constexpr qint64 minimumElementSize = 4; // of a list
+constexpr qint64 colorSize = 11;
+constexpr qint64 pointSize = 2 * sizeof(double);
+constexpr qint64 dayAndTimeSize = 12;
+constexpr qint64 fontDetailsSize = 31; // sizes, weight, spacing and hints
+constexpr qint64 penHeadSize = 11; // style and width
+constexpr qint64 miterLimitSize = sizeof(double);
+constexpr qint64 gradientHeadSize = 16; // type, spread, coordinates, interpolation
+constexpr qint64 curveParametersSize = 3 * sizeof(double); // period, amplitude, overshoot
+constexpr qint64 iconStateSize = 16; // size, mode, state
+
+// And what is of a fixed size in a PNG.
+constexpr qint64 chunkHeadSize = 8; // length and name
+constexpr qint64 pictureKindSize = 4; // color type, methods
+constexpr qint64 checksumSize = 4;
+
 // Deflate's best compression.
 constexpr double maxInflation = 1032;
 
@@ -115,8 +132,8 @@ private:
         return value;
     }
 
-    // Qt reserves memory for as many elements as the count says. None takes less than 4 bytes.
-    void checkCount() { require(take<quint32>() <= m_buffer.bytesAvailable() / 4); }
+    // Qt reserves memory for as many elements as the count says.
+    void checkCount() { require(take<quint32>() <= m_buffer.bytesAvailable() / minimumElementSize); }
 
     template <typename CheckElement>
     void checkElements(CheckElement checkElement)
@@ -195,13 +212,13 @@ void ValueReader::checkValue(int depth)
     case QMetaType::QFont:
         take<QString>(); // family
         take<QString>(); // style name
-        skip(31); // sizes, weight, spacing and hints
+        skip(fontDetailsSize);
         checkCount(); // families
         break;
     case QMetaType::QPen:
-        skip(11); // style and width
+        skip(penHeadSize);
         checkBrush();
-        skip(8); // miter limit
+        skip(miterLimitSize);
         checkCount(); // dashes
         break;
     case QMetaType::QRegExp: { // builds its automaton when it is read, its memory grows with the square
@@ -234,7 +251,7 @@ void ValueReader::checkValue(int depth)
 void ValueReader::checkDateTime()
 {
     const qint64 start = m_buffer.pos();
-    skip(12); // day and time
+    skip(dayAndTimeSize);
     const auto spec = take<quint8>();
     require(spec < Qt::TimeZone || (spec == Qt::TimeZone && isZoneId(take<QString>())));
     m_buffer.seek(start);
@@ -257,8 +274,8 @@ void ValueReader::checkEasingCurve()
         m_bytes.replace(addressPosition, sizeof(quint64), curve.mid(1, sizeof(quint64)));
     }
     if (take<bool>()) {
-        skip(24); // period, amplitude, overshoot
-        checkElements([this] { skip(16); }); // points of a Bezier spline
+        skip(curveParametersSize);
+        checkElements([this] { skip(pointSize); }); // of a Bezier spline
         checkCount(); // points of a TCB spline
     }
 }
@@ -267,11 +284,11 @@ void ValueReader::checkBrush()
 {
     const qint64 start = m_buffer.pos();
     const auto style = take<quint8>();
-    skip(11); // color
+    skip(colorSize);
     if (style == Qt::TexturePattern) {
         takePicture();
     } else if (style >= Qt::LinearGradientPattern && style <= Qt::ConicalGradientPattern) {
-        skip(16); // type, spread, coordinates, interpolation
+        skip(gradientHeadSize);
         const double share = take<quint32>() / maxGradientStops;
         spend(share * share);
     }
@@ -302,7 +319,7 @@ void ValueReader::checkIcon()
     checkElements([this] {
         require(!takePicture().isNull());
         take<QString>(); // file name
-        skip(16); // size, mode, state
+        skip(iconStateSize);
     });
 }
 
@@ -310,11 +327,11 @@ void ValueReader::checkIcon()
 double ValueReader::takePictureMemory()
 {
     require(take<quint64>() == Q_UINT64_C(0x89504E470D0A1A0A));
-    skip(8); // length and name of the first chunk
+    skip(chunkHeadSize);
     const double width = take<quint32>();
     const double height = take<quint32>();
     const int bytesPerPixel = take<quint8>() > 8 ? 8 : 4;
-    skip(8); // color type, methods, checksum
+    skip(pictureKindSize + checksumSize);
     double memory = height * (width * bytesPerPixel + sizeof(void *));
     for (QByteArray name; name != "IEND" && isOk();) {
         const auto length = take<quint32>();
@@ -322,7 +339,7 @@ double ValueReader::takePictureMemory()
         if (name == "iCCP" || name.endsWith("TXt")) { // compressed
             memory += maxInflation * length;
         }
-        skip(qint64{length} + 4); // and its checksum
+        skip(length + checksumSize);
     }
     return memory;
 }
