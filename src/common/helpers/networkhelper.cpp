@@ -114,7 +114,7 @@ QRegExp NetworkHelper::netmaskPattern()
 QVector<NetworkHelper::InterfaceAddress> NetworkHelper::interfaceAddresses()
 {
     QVector<InterfaceAddress> loopbacks;
-    QVector<InterfaceAddress> cards;
+    QVector<InterfaceAddress> others;
     const QList<QNetworkInterface> interfaces = QNetworkInterface::allInterfaces();
     for (const QNetworkInterface &candidate : interfaces) {
         const bool isLoopback = candidate.flags().testFlag(QNetworkInterface::IsLoopBack);
@@ -130,12 +130,12 @@ QVector<NetworkHelper::InterfaceAddress> NetworkHelper::interfaceAddresses()
         const QList<QNetworkAddressEntry> entries = candidate.addressEntries();
         for (const QNetworkAddressEntry &entry : entries) {
             if (entry.ip().protocol() == QAbstractSocket::IPv4Protocol) {
-                (isLoopback ? loopbacks : cards)
+                (isLoopback ? loopbacks : others)
                     .append({entry, hardwareAddress, candidate.name(), generation(candidate, entry.ip())});
             }
         }
     }
-    return loopbacks + cards;
+    return loopbacks + others;
 }
 
 bool NetworkHelper::InterfaceAddress::isContinuedBy(const InterfaceAddress &later) const

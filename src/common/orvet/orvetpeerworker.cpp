@@ -108,7 +108,7 @@ void OrvetPeerWorker::start(quint16 requestPort, quint16 responsePort)
 
 void OrvetPeerWorker::stop()
 {
-    // The adapters stay known, so that no later interface check opens them again.
+    // The interfaces stay known, so that no later interface check opens them again.
     for (const Adapter &adapter : qAsConst(m_adapters)) {
         delete adapter.requestSocket.data();
         delete adapter.responseSocket.data();
@@ -272,13 +272,13 @@ bool OrvetPeerWorker::isToBeReopened(const Adapter &adapter, const InterfaceAddr
     if (adapter.requestSocket.isNull() || adapter.address.interfaceName.isEmpty()) {
         return false;
     }
-    const auto isOnCard = [&adapter](const auto &present) {
+    const auto isSameInterface = [&adapter](const auto &present) {
         return present.hardwareAddress == adapter.hardwareAddress;
     };
     const auto isServed = [&adapter](const auto &present) { return adapter.address.isContinuedBy(present); };
     const bool isBound = adapter.requestSocket->state() == QAbstractSocket::BoundState
         && adapter.responseSocket->state() == QAbstractSocket::BoundState;
-    return std::any_of(interfaces.cbegin(), interfaces.cend(), isOnCard)
+    return std::any_of(interfaces.cbegin(), interfaces.cend(), isSameInterface)
         && !(isBound && std::any_of(interfaces.cbegin(), interfaces.cend(), isServed));
 }
 
