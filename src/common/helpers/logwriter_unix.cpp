@@ -9,8 +9,6 @@
 
 #include <cstdio>
 
-#ifndef Q_OS_WIN
-
 namespace {
 
 // This many lines of one turn of the event loop are written at once, so that the last ones are there should
@@ -78,11 +76,3 @@ void LogWriter::install()
     });
     qInstallMessageHandler(writeMessage);
 }
-
-#else
-
-void LogWriter::install()
-{
-}
-
-#endif
