@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr int maxDepth = 100;
+constexpr int maxDepth = 100; // far more than settings have; Qt takes stack for each level
 
 // Each of these uses up the whole budget of a snapshot.
 constexpr double maxPictureMemory = 32.0 * 1024 * 1024; // a 4K picture; read in 0.2 s
