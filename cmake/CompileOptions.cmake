@@ -1,7 +1,8 @@
 # SPDX-FileCopyrightText: 2026 Ravel Monitor Orbis Simulator contributors
 # SPDX-License-Identifier: MIT
 
-# The language level of all targets, and simulator_options: warnings and Qt definitions that every target links.
+# The language level of all targets, and simulator_options, which every target links: warnings, Qt definitions,
+# sanitizers and coverage.
 
 option(SIMULATOR_WERROR "Treat compiler warnings as errors" OFF)
 set(SIMULATOR_SANITIZERS "" CACHE STRING "Sanitizers to build with, such as address,undefined")
