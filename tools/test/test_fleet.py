@@ -32,7 +32,8 @@ class Fleet(unittest.TestCase):
 
     def test_exit_codes(self):
         self.assertEqual(subprocess.run([*FLEET, "1", "--", "sh", "-c", "exit 7"], check=False).returncode, 7)
-        kill = "pid=$(pgrep -f 'Simulator --sn SN[2]'); kill -KILL $pid; while grep -qs '^State:.[^Z]' /proc/$pid/status; do :; done"
+        # Only when all of its threads have ended, not just the first, the fleet is told of the end.
+        kill = "pid=$(pgrep -P $PPID -f SN[2]); kill -KILL $pid; while grep -qs '^State:.[^Z]' /proc/$pid/task/*/status; do :; done"
         run = subprocess.run([*FLEET, "2", "--", "sh", "-c", kill], stderr=subprocess.PIPE, text=True, check=False)
         self.assertEqual((run.returncode, run.stderr.splitlines()[-1]), (125, "orbis-fleet: SN2 has ended, with -9"))
         os.environ["ORBIS_PROGRAM"] = "sh -c 'echo out of order'"
