@@ -10,6 +10,7 @@
 
 #include <QLoggingCategory>
 #include <QTcpServer>
+#include <QtEndian>
 
 class TestModbusTcpSlave : public QObject
 {
@@ -47,6 +48,20 @@ private slots:
         connect(m_slave, &ModbusTcpSlave::holdingRegisterWritten, m_master, record("written %1 %2"_s));
         play(steps, *m_master, m_slave, &reports);
         QCOMPARE(m_master->exchange("0063 0000 0004 01 66 F407", 12).toHex(' '), QByteArray("00 63 00 00 00 06 01 66 74 65 78 74"));
+    }
+
+    // From an odd number over the end of the range.
+    void allRegisters()
+    {
+        for (int number = 0; number <= 0xFFFF; ++number) {
+            m_slave->setHoldingRegister(static_cast<quint16>(number), number);
+        }
+        m_master->write(QByteArray::fromHex("0001 0000 0006 01 03 1F43 FFFF"));
+        m_master->waitFor(9 + 2 * 0xFFFF);
+        QCOMPARE(m_master->read(9).toHex(' '), QByteArray("00 01 00 00 00 01 01 03 fe"));
+        for (int number = 0x1F43; number < 0x1F43 + 0xFFFF; ++number) {
+            QCOMPARE(qFromBigEndian<quint16>(m_master->read(2).constData()), static_cast<quint16>(number));
+        }
     }
 
     void registerLayout_data()

@@ -29,8 +29,8 @@ constexpr int reservedDescriptors = 32;
 
 } // namespace
 
-ModbusConnections::ModbusConnections(const Predicate &takesLong, QObject *parent)
-    : QTcpServer(parent), m_takesLong(takesLong), m_watch(new SocketWatch(this)),
+ModbusConnections::ModbusConnections(QObject *parent)
+    : QTcpServer(parent), m_watch(new SocketWatch(this)),
       m_maximumMasters(std::max(
           1, SystemHelper::maximumDescriptors() - SystemHelper::channelDescriptors() - reservedDescriptors))
 {
@@ -38,8 +38,8 @@ ModbusConnections::ModbusConnections(const Predicate &takesLong, QObject *parent
     m_restartTimer.setSingleShot(true);
     connect(&m_restartTimer, &QTimer::timeout, this, &ModbusConnections::restart);
     connect(this, &QTcpServer::acceptError, this, &ModbusConnections::scheduleRestart);
-    m_longRequestTimer.setSingleShot(true);
-    connect(&m_longRequestTimer, &QTimer::timeout, this, &ModbusConnections::handOverLongRequest);
+    m_pieceTimer.setSingleShot(true);
+    connect(&m_pieceTimer, &QTimer::timeout, this, &ModbusConnections::makePiece);
     connect(m_watch, &SocketWatch::ready, this, &ModbusConnections::serve);
     connect(m_watch, &SocketWatch::held, this, [this](QAbstractSocket *master) { m_jammed.insert(master); });
 }
@@ -153,41 +153,54 @@ void ModbusConnections::serve(QAbstractSocket *master)
     if (size == readSize) {
         m_watch->lookAgain(master);
     }
-    if (size > 0 && m_takesLong(m_buffer)) {
-        m_longRequests.enqueue({master, QByteArray(m_buffer.constData(), m_buffer.size())});
-        m_waiting.insert(master);
-        if (!m_longRequestTimer.isActive()) {
-            m_longRequestTimer.start(0);
-        }
-    } else if (size > 0) {
+    if (size > 0) {
         handOver(master, QByteArray(m_buffer)); // a copy, as a receiver may run an event loop
     }
-}
-
-// However many are queued, other masters get half of the time.
-void ModbusConnections::handOverLongRequest()
-{
-    if (m_longRequests.isEmpty()) {
-        return;
-    }
-    const LongRequest request = m_longRequests.dequeue();
-    m_waiting.remove(request.master);
-    QElapsedTimer duration;
-    duration.start();
-    if (request.master && request.master->isValid()) {
-        m_watch->lookAgain(request.master);
-        handOver(request.master, request.bytes);
-    }
-    m_longRequestTimer.start(static_cast<int>(duration.elapsed()));
 }
 
 void ModbusConnections::handOver(QAbstractSocket *master, const QByteArray &bytes)
 {
     const QPointer<QAbstractSocket> guard(master); // in a receiver's event loop the master may go
     emit requestReceived(master, bytes);
-    if (guard && !master->isValid()) {
+    if (guard) {
+        finish(master);
+    }
+}
+
+void ModbusConnections::answerInPieces(QAbstractSocket *master, const Piece &piece)
+{
+    m_waiting.insert(master);
+    m_longAnswers.enqueue({master, piece});
+    if (!m_pieceTimer.isActive()) {
+        m_pieceTimer.start(0);
+    }
+}
+
+// However many answers are queued, other masters get half of the time.
+void ModbusConnections::makePiece()
+{
+    if (m_longAnswers.isEmpty()) {
+        return;
+    }
+    QElapsedTimer duration;
+    duration.start();
+    LongAnswer answer = m_longAnswers.dequeue();
+    const bool isLast = !answer.master || answer.piece();
+    if (!isLast) {
+        m_longAnswers.prepend(answer);
+    } else if (answer.master) {
+        m_waiting.remove(answer.master);
+        m_watch->lookAgain(answer.master);
+        finish(answer.master);
+    }
+    m_pieceTimer.start(static_cast<int>(duration.elapsed()));
+}
+
+void ModbusConnections::finish(QAbstractSocket *master)
+{
+    if (!master->isValid()) {
         drop(master);
-    } else if (guard && master->bytesToWrite() > 0) {
+    } else if (master->bytesToWrite() > 0) {
         waitUntilFetched(master);
     }
 }

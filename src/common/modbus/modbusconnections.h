@@ -17,10 +17,10 @@ class SocketWatch;
 
 // The connections of a Modbus server: lets masters in, reads what they send and drops those that are gone.
 //
-// Whatever one master does, the others get their turn: connections are accepted a few at a time, requests
-// that take long are answered one at a time, a master that does not fetch its answers is not read from until
-// it does, and as many descriptors as the rest of the program needs stay free. Masters beyond that wait with
-// the system.
+// Whatever one master does, the others get their turn: connections are accepted a few at a time, answers
+// that take long are made piece by piece, a master that does not fetch its answers is not read from until it
+// does, and as many descriptors as the rest of the program needs stay free. Masters beyond that wait with the
+// system.
 //
 // Sockets are this object's children and are deleted once their connection has ended. Everything happens on
 // the thread that owns the object.
@@ -29,19 +29,23 @@ class ModbusConnections : public QTcpServer
     Q_OBJECT
 
 public:
-    using Predicate = std::function<bool(const QByteArray &bytes)>;
+    // Makes one piece of an answer, and sends all of it after the last one. Returns whether it was the last.
+    using Piece = std::function<bool()>;
 
-    // Requests that take long are handed over after all others, one at a time and with as long a pause as the
-    // last one took.
-    explicit ModbusConnections(const Predicate &takesLong, QObject *parent = nullptr);
+    explicit ModbusConnections(QObject *parent = nullptr);
 
     // Listens on all addresses at the port; false if it cannot be bound.
     bool start(quint16 port);
     // Stops listening. Masters stay connected.
     void stop();
 
+    // For an answer that takes long: has its pieces made in later turns of the event loop, one answer after
+    // the other and after each piece with as long a pause as it took. Until then nothing more is read from
+    // the master. If it goes, the other pieces are left out.
+    void answerInPieces(QAbstractSocket *master, const Piece &piece);
+
 signals:
-    // What one read brought, 1 to 65536 bytes. The receiver answers at once or not at all.
+    // What one read brought, 1 to 65536 bytes. The receiver answers at once, in pieces or not at all.
     void requestReceived(QAbstractSocket *master, const QByteArray &bytes);
 
 protected:
@@ -53,21 +57,21 @@ private:
     void scheduleRestart();
     void restart();
     void serve(QAbstractSocket *master);
-    void handOverLongRequest();
+    void makePiece();
     void handOver(QAbstractSocket *master, const QByteArray &bytes);
+    void finish(QAbstractSocket *master);
     void waitUntilFetched(QAbstractSocket *master);
     void drop(QAbstractSocket *master);
 
-    struct LongRequest
+    struct LongAnswer
     {
         QPointer<QAbstractSocket> master;
-        QByteArray bytes;
+        Piece piece;
     };
 
-    const Predicate m_takesLong;
-    QQueue<LongRequest> m_longRequests;
-    QSet<const QObject *> m_waiting; // whose request is among them
-    QTimer m_longRequestTimer;
+    QQueue<LongAnswer> m_longAnswers;
+    QSet<const QObject *> m_waiting; // for one of them
+    QTimer m_pieceTimer;
     SocketWatch *const m_watch;
     const int m_maximumMasters;
     QSet<const QObject *> m_jammed; // who sent something while its answers did not leave

@@ -38,15 +38,16 @@ RegisterRange registerRange(const TcpApplicationDataUnit &request)
             qFromBigEndian<quint16>(fields.constData() + countOffset)};
 }
 
-// More registers than the 125 that the Modbus standard allows: up to 65,535, each with a warning if it was
-// never set.
-bool isLongRead(const QByteArray &bytes)
+// With a warning for each register that was never set this many take about two milliseconds. An even number,
+// so that a property's two registers are read together.
+constexpr int registersPerPiece = 4096;
+
+// More registers than the 125 that the Modbus standard allows: up to 65,535.
+bool isLongRead(const TcpApplicationDataUnit &request)
 {
     constexpr int standardLimit = 125;
-    return bytes.size() >= TcpApplicationDataUnit::minimumSize + rangeSize
-        && bytes.at(TcpApplicationDataUnit::functionCodeOffset) == ReadHoldingRegisters
-        && qFromBigEndian<quint16>(bytes.constData() + TcpApplicationDataUnit::minimumSize + countOffset)
-        > standardLimit;
+    return request.pdu().functionCode() == ReadHoldingRegisters && request.pdu().data().size() >= rangeSize
+        && registerRange(request).count > standardLimit;
 }
 
 } // namespace
@@ -101,7 +102,7 @@ void ModbusTcpSlavePrivate::init(ModbusTcpSlave *slave)
 {
     q = slave;
     setParent(slave);
-    m_connections = new ModbusConnections(isLongRead, this);
+    m_connections = new ModbusConnections(this);
     // Without blanks Qt need not normalise the signature.
     // clang-format off
     connect(m_connections, SIGNAL(requestReceived(QAbstractSocket*,QByteArray)),
@@ -117,12 +118,32 @@ void ModbusTcpSlavePrivate::processRequest(QAbstractSocket *master, const QByteA
         return;
     }
     const auto request = TcpApplicationDataUnit::fromByteArray(bytes);
-    const std::optional<QByteArray> data = handle(request);
-    if (!data) {
-        return;
+    if (isLongRead(request)) {
+        answerInPieces(master, request);
+    } else if (const std::optional<QByteArray> data = handle(request)) {
+        answer(master, request, *data);
     }
+}
+
+void ModbusTcpSlavePrivate::answerInPieces(QAbstractSocket *master, const TcpApplicationDataUnit &request)
+{
+    // Thousands may wait for their answers, so nothing is kept that may stand behind the range.
+    TcpApplicationDataUnit kept = request;
+    kept.setPdu(ProtocolDataUnit(request.pdu().functionCode(), request.pdu().data().left(rangeSize)));
+    m_connections->answerInPieces(master, [this, master, kept, data = QByteArray()]() mutable {
+        const bool isComplete = readRegisters(kept, data);
+        if (isComplete) {
+            answer(master, kept, data);
+        }
+        return isComplete;
+    });
+}
+
+void ModbusTcpSlavePrivate::answer(QAbstractSocket *master, const TcpApplicationDataUnit &request,
+                                   const QByteArray &data)
+{
     const TcpApplicationDataUnit response(request.transactionId(), request.protocolId(), request.unitId(),
-                                          ProtocolDataUnit(request.pdu().functionCode(), *data));
+                                          ProtocolDataUnit(request.pdu().functionCode(), data));
     const QByteArray responseBytes = response.toByteArray();
     NetworkHelper::sendPacket(master, responseBytes, nullptr);
     report(request, responseBytes);
@@ -203,24 +224,33 @@ ModbusTcpSlavePrivate::handleReadHoldingRegisters(const TcpApplicationDataUnit &
     if (!hasData(request, rangeSize)) {
         return {};
     }
-    const auto [start, count] = registerRange(request);
-    qCDebug(lcModbus) << "Requested" << count << "registers, starting from" << start << ".";
+    QByteArray data;
+    while (!readRegisters(request, data)) { }
+    return data;
+}
 
-    // Counts beyond the 125 of the Modbus standard are served too; the byte count then wraps.
-    QByteArray data(2 * count + 1, Qt::Uninitialized);
-    char *word = data.data();
-    *word++ = static_cast<char>(2 * count);
-    auto next = m_registers.lowerBound(start);
-    for (int i = 0; i < count; ++i, word += 2) {
-        const auto number = static_cast<quint16>(start + i);
-        if (number == 0) {
-            next = m_registers.cbegin();
-        }
+bool ModbusTcpSlavePrivate::readRegisters(const TcpApplicationDataUnit &request, QByteArray &data) const
+{
+    const auto [start, count] = registerRange(request);
+    if (data.isEmpty()) {
+        qCDebug(lcModbus) << "Requested" << count << "registers, starting from" << start << ".";
+        // Counts beyond the 125 of the Modbus standard are served too; the byte count then wraps.
+        data.reserve(2 * count + 1);
+        data.append(static_cast<char>(2 * count));
+    }
+    const int done = data.size() / 2;
+    const auto first = static_cast<quint16>(start + done);
+    const int piece = std::min(count - done, registersPerPiece - first % registersPerPiece);
+    data.resize(data.size() + 2 * piece);
+    char *word = data.end() - 2 * piece;
+    auto next = m_registers.lowerBound(first);
+    for (int i = 0; i < piece; ++i, word += 2) {
+        const auto number = static_cast<quint16>(first + i);
         const bool isSet = next != m_registers.cend() && next.key() == number;
         const quint32 bits = isSet ? valueBits(*next++) : valueBits(q->holdingRegister(number));
         qToBigEndian(static_cast<quint16>(bits), word);
     }
-    return data;
+    return data.size() > 2 * count;
 }
 
 std::optional<QByteArray>

@@ -34,6 +34,9 @@ public:
     // Whether the request's data has the size that its handler reads; logs a warning if not.
     static bool hasData(const TcpApplicationDataUnit &request, int size);
 
+    // Adds more registers to the answer's data, which begins empty; returns whether it is complete.
+    bool readRegisters(const TcpApplicationDataUnit &request, QByteArray &data) const;
+
     // The handlers return the data of the answer, or nothing where there is none.
     std::optional<QByteArray> handleReadHoldingRegisters(const TcpApplicationDataUnit &request) const;
     std::optional<QByteArray> handleWriteMultipleRegisters(const TcpApplicationDataUnit &request);
@@ -50,5 +53,7 @@ public slots:
 
 private:
     std::optional<QByteArray> handle(const TcpApplicationDataUnit &request);
+    void answerInPieces(QAbstractSocket *master, const TcpApplicationDataUnit &request);
+    void answer(QAbstractSocket *master, const TcpApplicationDataUnit &request, const QByteArray &data);
     void report(const TcpApplicationDataUnit &request, const QByteArray &response);
 };
