@@ -31,9 +31,9 @@ from orbis_tools import ENDS, FAILURE, exit_code, fail, is_running, isolate, pro
 MOST = 1000  # a bridge has 1023 ports
 DEADLINE = 300  # seconds for a device to answer; a thousand of them start at once
 NETWORK = ipaddress.ip_network("192.168.4.0/22")
-CLIENT, CLIENT_MAC = "192.168.7.254", "02:00:00:00:FF:FF"
+MASTER, MASTER_MAC = "192.168.7.254", "02:00:00:00:FF:FF"
 # Some masters refuse addresses that end in 0 or 255.
-ADDRESSES = [str(host) for host in NETWORK.hosts() if host.packed[3] not in (0, 255) and str(host) != CLIENT]
+ADDRESSES = [str(host) for host in NETWORK.hosts() if host.packed[3] not in (0, 255) and str(host) != MASTER]
 
 LIBC = ctypes.CDLL(None, use_errno=True)
 NEW_NETWORK = 0x40000000  # CLONE_NEWNET
@@ -81,7 +81,7 @@ class Device:
         ip(f"link add eth0 address {self._mac} type veth peer name {port} netns /proc/{os.getpid()}/fd/{home}",
            f"address add {self.address}/{NETWORK.prefixlen} dev eth0", "link set lo up",
            "link set eth0 up addrgenmode none",
-           f"neighbour add {CLIENT} lladdr {CLIENT_MAC} dev eth0 nud permanent")
+           f"neighbour add {MASTER} lladdr {MASTER_MAC} dev eth0 nud permanent")
         enter(home)
         ip(f"link set {port} up addrgenmode none master lan",
            f"link set {port} type bridge_slave isolated {'on' if port_isolation else 'off'}",
@@ -122,14 +122,14 @@ def run_beside(devices, command):
         return 0
     signal.signal(signal.SIGINT, lambda *_: None)  # left to the command, which it also reaches
     try:
-        client = subprocess.Popen(command)
+        process = subprocess.Popen(command)
     except OSError as error:
         say(f"{command[0]}: {error.strerror}")
         return 127 if isinstance(error, FileNotFoundError) else 126
     try:
-        code = exit_code(client.wait())
+        code = exit_code(process.wait())
     finally:
-        client.terminate()
+        process.terminate()
     return code if still_there(devices) == devices else code or FAILURE
 
 
@@ -185,8 +185,8 @@ def start_simulations(devices, environment):
 
 
 def run(options):
-    ip("link set lo up", f"link add lan address {CLIENT_MAC} type bridge", "link set lan up addrgenmode none",
-       f"address add {CLIENT}/{NETWORK.prefixlen} dev lan")
+    ip("link set lo up", f"link add lan address {MASTER_MAC} type bridge", "link set lan up addrgenmode none",
+       f"address add {MASTER}/{NETWORK.prefixlen} dev lan")
     home = current_network()
     devices = []
     with tempfile.TemporaryDirectory(prefix="orbis-fleet-") as scratch:
@@ -198,7 +198,7 @@ def run(options):
             if options.running:
                 start_simulations(devices, options.environment)
             say(f"{devices[0].serial} to {devices[-1].serial} are at {devices[0].address} to {devices[-1].address}, "
-                f"clients at {CLIENT}.")
+                f"masters at {MASTER}.")
             return run_beside(devices, options.command)
         finally:
             for number in (signal.SIGINT, *ENDS):

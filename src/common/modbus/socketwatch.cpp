@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int lookAgainMs = 1;
+constexpr int lookAgainMs = 1; // with 0 the same socket could be announced again before the others
 constexpr int roomRetryMs = 20; // where there is no room, the master has not read for a while
 
 } // namespace

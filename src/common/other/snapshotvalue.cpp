@@ -19,12 +19,12 @@
 
 namespace {
 
-constexpr int maxDepth = 100; // far more than settings have; Qt takes stack for each level
+constexpr int maximumDepth = 100; // far more than settings have; Qt takes stack for each level
 
 // Each of these uses up the whole budget of a snapshot.
-constexpr double maxPictureMemory = 32.0 * 1024 * 1024; // a 4K picture; read in 0.2 s
-constexpr double maxPatternSize = 1200; // QRegExp needs some 50 ms, with the cube of the size
-constexpr double maxGradientStops = 100000; // inserted one by one in 0.1 s, with the square of the number
+constexpr double maximumPictureMemory = 32.0 * 1024 * 1024; // a 4K picture; read in 0.2 s
+constexpr double maximumPatternSize = 1200; // QRegExp needs some 50 ms, with the cube of the size
+constexpr double maximumGradientStops = 100000; // inserted one by one in 0.1 s, with the square of the number
 
 // What Qt writes of a fixed size, in bytes.
 constexpr qint64 minimumElementSize = 4; // of a list
@@ -44,7 +44,7 @@ constexpr qint64 pictureKindSize = 4; // color type, methods
 constexpr qint64 checksumSize = 4;
 
 // Deflate's best compression.
-constexpr double maxInflation = 1032;
+constexpr double maximumInflation = 1032;
 
 // Characters of a pattern after repetitions are written out: a number behind a group may repeat all of it,
 // any other a single character.
@@ -56,7 +56,7 @@ double expandedSize(const QString &pattern)
     const auto text = QString::fromLatin1(latin1.constData(), latin1.size());
     double size = text.size();
     double factor = 1;
-    for (auto match = repetition.globalMatch(text); match.hasNext() && size * factor <= maxPatternSize;) {
+    for (auto match = repetition.globalMatch(text); match.hasNext() && size * factor <= maximumPatternSize;) {
         const auto found = match.next();
         const double count = std::max({1.0, found.captured(2).toDouble(), found.captured(3).toDouble()});
         if (found.captured(1).isEmpty()) {
@@ -161,7 +161,7 @@ private:
 void ValueReader::checkValue(int depth)
 {
     const qint64 start = m_buffer.pos();
-    require(depth <= maxDepth);
+    require(depth <= maximumDepth);
     const auto type = take<quint32>();
     take<qint8>(); // whether the value is null
     require(type < QMetaType::User);
@@ -222,7 +222,7 @@ void ValueReader::checkValue(int depth)
         checkCount(); // dashes
         break;
     case QMetaType::QRegExp: { // builds its automaton when it is read, its memory grows with the square
-        const double share = expandedSize(take<QString>()) / maxPatternSize;
+        const double share = expandedSize(take<QString>()) / maximumPatternSize;
         spend(share * share);
         break;
     }
@@ -289,7 +289,7 @@ void ValueReader::checkBrush()
         takePicture();
     } else if (style >= Qt::LinearGradientPattern && style <= Qt::ConicalGradientPattern) {
         skip(gradientHeadSize);
-        const double share = take<quint32>() / maxGradientStops;
+        const double share = take<quint32>() / maximumGradientStops;
         spend(share * share);
     }
     m_buffer.seek(start);
@@ -337,7 +337,7 @@ double ValueReader::takePictureMemory()
         const auto length = take<quint32>();
         name = m_buffer.read(4);
         if (name == "iCCP" || name.endsWith("TXt")) { // compressed
-            memory += maxInflation * length;
+            memory += maximumInflation * length;
         }
         skip(length + checksumSize);
     }
@@ -349,7 +349,7 @@ QPixmap ValueReader::takePicture()
     require(qGuiApp != nullptr); // Qt ends a process without it
     const qint64 start = m_buffer.pos();
     if (take<qint32>() != 0) {
-        spend(takePictureMemory() / maxPictureMemory);
+        spend(takePictureMemory() / maximumPictureMemory);
     }
     m_buffer.seek(start);
     return take<QPixmap>();

@@ -34,10 +34,10 @@ const QLatin1String binaryScheme("binary://"); // as the Base64 text of its QDat
 
 // QMetaType normalises the names it is asked for, one level of recursion a template argument. Types that can
 // be mapped have names far shorter than this.
-constexpr int maxTypeNameLength = 100;
+constexpr int maximumTypeNameLength = 100;
 
 // Far more than settings take. Parsed, a file needs ten times its size and more.
-constexpr qint64 maxSnapshotSize = qint64{64} * 1024 * 1024;
+constexpr qint64 maximumSnapshotSize = qint64{64} * 1024 * 1024;
 
 UnifiedStorage *theInstance = nullptr;
 
@@ -144,7 +144,7 @@ bool readMapped(const QString &keyAndType, const QJsonValue &member, QHash<QStri
 {
     const QByteArray typeName = keyAndType.section(QLatin1Char('?'), 1, 1).toUtf8();
     const int typeId =
-        typeName.size() > maxTypeNameLength ? QMetaType::UnknownType : QMetaType::type(typeName);
+        typeName.size() > maximumTypeNameLength ? QMetaType::UnknownType : QMetaType::type(typeName);
     if (!UnifiedStoragePrivate::isMappedType(typeId)) {
         return false;
     }
@@ -314,7 +314,7 @@ void UnifiedStorage::loadSnapshot(const QString &path, bool keepCurrent)
     const QFileInfo info(path);
     QFile file(path);
     // A FIFO would wait for its writer, and a device may never end.
-    if (!info.isFile() || info.size() > maxSnapshotSize || !file.open(QIODevice::ReadOnly)) {
+    if (!info.isFile() || info.size() > maximumSnapshotSize || !file.open(QIODevice::ReadOnly)) {
         qCCritical(lcCore) << "Failed reading bucket snapshot from" << path;
         return;
     }
