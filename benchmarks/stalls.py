@@ -19,7 +19,7 @@ import harness  # noqa: E402
 PORT = 502
 ADDRESS = "127.0.0.1"
 DEVICE, BEHIND_LINK = "192.168.7.1", "192.168.7.2"
-SMALL = 4096
+SMALL, LARGE = 4096, 262144
 INTERVAL = 0.01
 
 READ_2 = bytes.fromhex("000100000006 01 03 07F0 0002")
@@ -28,12 +28,12 @@ READ_2000 = bytes.fromhex("000100000006 01 03 07D0 07D0")
 READ_ALL = bytes.fromhex("000100000006 01 03 0000 FFFF")
 
 
-def join(count, address=ADDRESS, segment=0):
-    """So many connections that can take little at a time."""
+def join(count, address=ADDRESS, segment=0, room=SMALL):
+    """So many connections that can take little at a time, unless they are given room."""
     masters = []
     for _ in range(count):
         master = socket.socket()
-        master.setsockopt(socket.SOL_SOCKET, socket.SO_RCVBUF, SMALL)
+        master.setsockopt(socket.SOL_SOCKET, socket.SO_RCVBUF, room)
         master.setsockopt(socket.IPPROTO_TCP, socket.TCP_NODELAY, 1)
         if segment:
             master.setsockopt(socket.IPPROTO_TCP, socket.TCP_MAXSEG, segment)
@@ -43,16 +43,33 @@ def join(count, address=ADDRESS, segment=0):
     return masters
 
 
+def ask(masters, request, read):
+    """Each asks and reads so many bytes of what has come back."""
+    for master in masters:
+        with contextlib.suppress(BlockingIOError, ConnectionError):
+            master.send(request)
+        with contextlib.suppress(BlockingIOError, ConnectionError):
+            if read:
+                master.recv(read)
+    time.sleep(0.001)
+
+
 def ask_for_ever(masters, request, read=0):
-    """Each asks every millisecond and reads so many bytes of what comes back."""
     while True:
-        for master in masters:
-            with contextlib.suppress(BlockingIOError, ConnectionError):
-                master.send(request)
-            with contextlib.suppress(BlockingIOError, ConnectionError):
-                if read:
-                    master.recv(read)
-        time.sleep(0.001)
+        ask(masters, request, read)
+
+
+def crowd():
+    short, long = join(300), join(32, room=LARGE)
+    while True:
+        ask(short, READ_2, 64)
+        ask(long, READ_ALL, LARGE)
+
+
+def ask_and_leave():
+    while True:
+        with contextlib.suppress(OSError), socket.create_connection((ADDRESS, PORT)) as master:
+            master.send(READ_ALL)
 
 
 def byte_by_byte():
@@ -85,6 +102,8 @@ NEIGHBOURS = {
     "16 ask for 12 registers, never read": lambda: ask_for_ever(join(16, segment=88), READ_12),
     "10 ask byte by byte, never read": byte_by_byte,
     "100 ask for all registers, their link dies": behind_dead_link,
+    "300 ask for 2 registers and 32 for all": crowd,
+    "masters ask for all registers and leave, at full speed": ask_and_leave,
 }
 
 

@@ -176,7 +176,7 @@ void ModbusConnections::answerInPieces(QAbstractSocket *master, const Piece &pie
     }
 }
 
-// However many answers are queued, other masters get half of the time.
+// However many answers are queued, other masters get at least half of the time.
 void ModbusConnections::makePiece()
 {
     if (m_longAnswers.isEmpty()) {
@@ -193,7 +193,7 @@ void ModbusConnections::makePiece()
         m_watch->lookAgain(answer.master);
         finish(answer.master);
     }
-    m_pieceTimer.start(static_cast<int>(duration.elapsed()));
+    m_pieceTimer.start(static_cast<int>(duration.elapsed()) + 1);
 }
 
 void ModbusConnections::finish(QAbstractSocket *master)
