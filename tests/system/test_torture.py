@@ -174,7 +174,8 @@ class Torture(harness.TestCase):
     def test_signals(self):
         """Started as in trap '' INT; simulator | reader"""
         previous = signal.signal(signal.SIGINT, signal.SIG_IGN)
-        with subprocess.Popen(harness.command(), stdout=subprocess.PIPE, stderr=subprocess.STDOUT) as program:
+        # The pipe takes less than the warnings of one turn of the event loop.
+        with subprocess.Popen(harness.command(), stdout=subprocess.PIPE, stderr=subprocess.STDOUT, pipesize=4096) as program:
             signal.signal(signal.SIGINT, previous)
             master = self.connect()
             program.send_signal(signal.SIGINT)
