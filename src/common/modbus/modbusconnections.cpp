@@ -185,7 +185,7 @@ void ModbusConnections::makePiece()
     QElapsedTimer duration;
     duration.start();
     LongAnswer answer = m_longAnswers.dequeue();
-    const bool isLast = !answer.master || answer.piece();
+    const bool isLast = answer.master.isNull() || answer.piece();
     if (!isLast) {
         m_longAnswers.prepend(answer);
     } else if (answer.master) {

@@ -238,11 +238,12 @@ bool ModbusTcpSlavePrivate::readRegisters(const TcpApplicationDataUnit &request,
         data.reserve(2 * count + 1);
         data.append(static_cast<char>(2 * count));
     }
-    const int done = data.size() / 2;
+    const int size = data.size();
+    const int done = size / 2;
     const auto first = static_cast<quint16>(start + done);
     const int piece = std::min(count - done, registersPerPiece - first % registersPerPiece);
-    data.resize(data.size() + 2 * piece);
-    char *word = data.end() - 2 * piece;
+    data.resize(size + 2 * piece);
+    char *word = data.data() + size;
     auto next = m_registers.lowerBound(first);
     for (int i = 0; i < piece; ++i, word += 2) {
         const auto number = static_cast<quint16>(first + i);
