@@ -256,7 +256,8 @@ void MainWindowPrivate::fillAlarmPicker(const QMap<QString, QString> &entries)
         addItem(ui->alarmList, metrics.elidedText(entry.value(), Qt::ElideRight, maximumEntryWidth),
                 entry.key());
         ui->alarmList->setItemData(row, plainToolTip(entry.value()), Qt::ToolTipRole);
-        ui->alarmList->setItemData(row, entry.value(), Qt::AccessibleDescriptionRole);
+        // Not as its description: screen readers would say every alarm twice.
+        ui->alarmList->setItemData(row, entry.value(), Qt::AccessibleTextRole);
     }
     showWholeAlarm(); // the first entry became the current one before it had its tool tip
 }
