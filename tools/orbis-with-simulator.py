@@ -29,7 +29,9 @@ from orbis_tools import ENDS, FAILURE, TOP, exit_code, fail, is_running, isolate
 
 SETUP = ("mount -t proc proc /proc; ip link set lo up;"
          "ip link add lan type veth peer name wire; ip link set wire up; ip link set lan up;"
-         "ip address add 192.168.7.1/24 dev lan; ip route add 255.255.255.255 dev lan")
+         "ip address add 192.168.7.1/24 dev lan; ip route add 255.255.255.255 dev lan;"
+         # At its start the simulator finds the interfaces that are up, later ones only within half a minute.
+         "until ip link show lan | grep -q 'state UP'; do sleep 0.05; done")
 SIGNALS = (signal.SIGINT, *ENDS)
 DEADLINE = 30  # seconds until the simulator answers; generous, for loaded machines
 

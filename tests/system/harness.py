@@ -20,17 +20,18 @@ import unittest
 WINDOWS = "CHANNEL_WRITER" in os.environ  # under Wine
 NEW_NETWORK = 0x40000000  # CLONE_NEWNET
 DEADLINE = 30  # seconds; generous, for loaded machines and sanitizer builds
+UNTIL_UP = "until ip link show {} | grep -q 'state UP'; do sleep 0.1; done"  # a program that starts earlier misses the interface
 VISIBLE = {"QT_QPA_PLATFORM": "xcb", "ASAN_OPTIONS": "detect_leaks=0"}  # the platform plugin has leaks of its own
 
 
 def wait_until(condition, what):
     end = time.monotonic() + DEADLINE
-    while time.monotonic() < end:
-        result = condition()
-        if result:
-            return result
+    is_last = False  # a look after the deadline: this process may have been the one that was held up
+    while not (result := condition()):
+        assert not is_last, f"waited {DEADLINE} s for {what}"
+        is_last = time.monotonic() > end
         time.sleep(0.02)
-    raise AssertionError(f"waited {DEADLINE} s for {what}")
+    return result
 
 
 def require_namespaces():
@@ -47,7 +48,7 @@ def shell(script):
 def add_interface():
     """Adds a network interface "lan", 192.168.7.1, with the hardware address 02:00:00:00:00:01."""
     shell("ip link add lan address 02:00:00:00:00:01 type veth peer name wire; ip link set wire up;"
-          "ip link set lan up; ip address add 192.168.7.1/24 dev lan")
+          "ip link set lan up; ip address add 192.168.7.1/24 dev lan;" + UNTIL_UP.format("lan"))
 
 
 class Host:

@@ -33,7 +33,7 @@ class OtherHost(harness.Host):
                       f"ip address add 192.168.7.{number}/24 dev lan{number}; ip link set lan{number} up")
         with self:
             harness.shell(f"ip link set port{number} master lan up")
-        harness.shell(f"until ip link show lan{number} | grep -q 'state UP'; do sleep 0.1; done")
+        harness.shell(harness.UNTIL_UP.format(f"lan{number}"))
 
     def bind(self, port):
         with self:

@@ -98,7 +98,8 @@ class FaultProxy(harness.TestCase):
             harness.shell(f"ip link add {interface} type veth peer name lan netns {host.path}; ip link set {interface} up;"
                           f"ip address add 192.168.{number}.254/24 dev {interface}")
             with host:
-                harness.shell(f"ip link set lo up; ip address add 192.168.{number}.1/24 dev lan; ip link set lan up")
+                harness.shell(f"ip link set lo up; ip address add 192.168.{number}.1/24 dev lan; ip link set lan up;"
+                              + harness.UNTIL_UP.format("lan"))
         with device:
             simulator = self.start("--sn", "FAR")
         simulator.wait_for_log('with ip "192.168.7.1"')
