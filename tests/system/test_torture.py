@@ -189,6 +189,7 @@ class Torture(harness.TestCase):
 
     def test_load(self):
         simulator = self.start()
+        simulator.wait_for_log("Added port for device")
         master = self.connect()
         with self.subTest("1,000 datagrams a second"), socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as flood:
             end = time.monotonic() + 2
@@ -204,4 +205,4 @@ class Torture(harness.TestCase):
             for _ in range(200):
                 with harness.connect() as another:
                     self.check_served(another)
-            harness.wait_until(lambda: len(os.listdir(descriptors)) == before, "closing the descriptors of masters that left")
+            harness.wait_until(lambda: len(os.listdir(descriptors)) <= before, "closing the descriptors of masters that left")
