@@ -30,7 +30,7 @@ bool run(const QString &script)
     const QString done = qEnvironmentVariable("TMPDIR") + "/done"_s;
     QFile::remove(done);
     QProcess::startDetached("/bin/sh"_s, {"-ec"_s, script + "; touch "_s + done});
-    for (QDeadlineTimer deadline(5000); !QFile::exists(done) && !deadline.hasExpired();) {
+    for (QDeadlineTimer deadline(30000); !QFile::exists(done) && !deadline.hasExpired();) {
         QThread::msleep(5);
     }
     return QFile::exists(done);
@@ -226,7 +226,8 @@ private slots:
             peer.value("key"_s);
         }
         peer.value("key"_s);
-        QTRY_COMPARE(discovered.count() + got.count(), 1000);
+        QTRY_VERIFY(discovered.count() + got.count() >= 1000);
+        QVERIFY(discovered.count() + got.count() < 1100); // one that comes now is reported again
     }
 
     void interfacesComeAndGo()
