@@ -16,7 +16,7 @@ sealed class Device : IDisposable
 
     public Device(string host)
     {
-        client = new TcpClient(host, 502) { NoDelay = true, ReceiveTimeout = 2000 };
+        client = new TcpClient(host, 502) { NoDelay = true, ReceiveTimeout = 5000 };
     }
 
     public void Dispose()

@@ -31,7 +31,7 @@ class Device:
     NAME, DESCRIPTOR, STORAGE, VALUE = 100, 101, 102, 103  # function codes
     CONFIRM = 1  # what an alarm's action is while a confirmation is expected
 
-    def __init__(self, host, timeout=2):
+    def __init__(self, host, timeout=5):
         self._socket = socket.create_connection((host, 502), timeout)
 
     def __enter__(self):

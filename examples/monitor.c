@@ -120,7 +120,8 @@ int main(int argc, char *argv[])
     if (!device || modbus_connect(device) != 0) {
         fail("monitor HOST");
     }
-    make_blocking(modbus_get_socket(device), 2);
+    make_blocking(modbus_get_socket(device), 5);
+    modbus_set_response_timeout(device, 5, 0); /* seconds, microseconds; by default half a second */
 
     show_table(device);
     if (show_alarm(device) == CONFIRM) {

@@ -18,9 +18,9 @@ case $1 in
 toggle)
     xdotool key space
     ;;
-raise) # a picker jumps to the entry that begins with what is typed
-    xdotool key Tab type "$2"
-    xdotool key Tab type "$3"
+raise) # a picker jumps to the entry that begins with what is typed, with less than 0.4 s between two characters
+    xdotool key Tab type --delay 0 "$2"
+    xdotool key Tab type --delay 0 "$3"
     xdotool key Tab Tab space Tab Tab
     ;;
 end)

@@ -25,7 +25,7 @@ def read_pressure(client):
 
 def main():
     host, port, times = sys.argv[1:]
-    client = ModbusTcpClient(host, port=int(port), timeout=1)
+    client = ModbusTcpClient(host, port=int(port), timeout=3)
     for _ in range(int(times)):
         try:
             print(f"{read_pressure(client):g} bar", flush=True)

@@ -52,6 +52,7 @@ int main(int argc, char *argv[])
     if (!device || modbus_connect(device) != 0) {
         fail("read_device HOST");
     }
+    modbus_set_response_timeout(device, 5, 0); /* seconds, microseconds; by default half a second */
     printf("pressure %.1f bar\n", read_float(device, PRESSURE));
     printf("set points %.1f and %.1f bar\n", read_float(device, SET_POINTS),
            read_float(device, SET_POINTS + 2));

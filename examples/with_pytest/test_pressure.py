@@ -21,7 +21,7 @@ async def read_pressure(simulator):
     reader, writer = await asyncio.open_connection(simulator.host, simulator.port)
     writer.write(bytes.fromhex("0001 0000 0006 01 03 07F0 0002"))
     try:
-        return await asyncio.wait_for(reader.readexactly(13), timeout=1)
+        return await asyncio.wait_for(reader.readexactly(13), timeout=3)
     finally:
         writer.close()
 
