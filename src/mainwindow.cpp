@@ -256,8 +256,7 @@ void MainWindowPrivate::fillAlarmPicker(const QMap<QString, QString> &entries)
         addItem(ui->alarmList, metrics.elidedText(entry.value(), Qt::ElideRight, maximumEntryWidth),
                 entry.key());
         ui->alarmList->setItemData(row, plainToolTip(entry.value()), Qt::ToolTipRole);
-        // Not as its description: screen readers would say every alarm twice.
-        ui->alarmList->setItemData(row, entry.value(), Qt::AccessibleTextRole);
+        ui->alarmList->setItemData(row, entry.value(), Qt::AccessibleDescriptionRole);
     }
     showWholeAlarm(); // the first entry became the current one before it had its tool tip
 }

@@ -141,7 +141,7 @@ private slots:
             const QString full = alarms->itemData(i, Qt::ToolTipRole).toString();
             QCOMPARE(entries.last(), QFontMetrics(QFont()).elidedText(full, Qt::ElideRight, 500));
             QVERIFY(!full.endsWith(u'\u2026'));
-            QCOMPARE(alarms->itemData(i, Qt::AccessibleTextRole).toString(), full);
+            QCOMPARE(alarms->itemData(i, Qt::AccessibleDescriptionRole).toString(), full);
         }
         QCOMPARE(entries.size(), 151);
         QVERIFY(entries.contains("0x44060012: Application time interrupted"_s));
