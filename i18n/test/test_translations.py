@@ -45,4 +45,6 @@ class Translations(unittest.TestCase):
     def test_interface(self):
         found = pathlib.Path(os.environ["TMPDIR"], "found.ts")
         subprocess.run([os.environ["LUPDATE"], "-silent", ROOT / "src/mainwindow.cpp", "-ts", found], check=True)
-        self.check("interface", "GUI", {source.text for source in ElementTree.parse(found).iter("source")})
+        texts = ElementTree.parse(found)
+        self.assertEqual([element.text for element in texts.iter("name")], ["GUI"])
+        self.check("interface", "GUI", {source.text for source in texts.iter("source")})

@@ -126,6 +126,10 @@ private slots:
             m_window->show();
             QTRY_VERIFY(alarms->isVisible() ? isReadable(alarms) : m_window->width() < 300);
         }
+        m_window->showMaximized();
+        const QSize whole = m_window->size();
+        m_window->onUrlReceived(QUrl("access_level/3"_s));
+        QCOMPARE(m_window->size(), whole);
     }
 
     void catalogue()
