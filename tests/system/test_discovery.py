@@ -50,7 +50,8 @@ class Discovery(harness.TestCase):
         host.connect(1)
         host.connect(2)
         harness.shell("ip route add default via 192.168.7.9")  # without a gateway Wine finds no interfaces
-        self.start("--sn", "ABC123").wait_for_log('Added port for device "02:00:00:00:00:02"')
+        simulator = self.start("--sn", "ABC123")
+        simulator.wait_for_log('Added port for device "02:00:00:00:00:02"')
         with host, socket.socket(socket.AF_INET, socket.SOCK_RAW, socket.IPPROTO_UDP) as sender:
             sender.sendto(struct.pack(">4H", 9, 45123, 208, 1) + b"D" * 200, ("192.168.7.1", 0))  # damaged on the way
         harness.wait_until(wrong_checksums, "the datagram with the wrong checksum")
@@ -63,3 +64,4 @@ class Discovery(harness.TestCase):
             for request in (*SILENT, b"D anna@PC1", b"G 02:00:00:00:00:01"):
                 requester.sendto(request, ("255.255.255.255", 45123))
             self.assertEqual(sorted(responses.recv(65536) for _ in expected), expected)
+        self.assertNotIn("QObject::connect", simulator.log())  # nothing refused, like types that cannot go to another thread
