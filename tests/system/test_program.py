@@ -26,8 +26,8 @@ class Program(harness.TestCase):
         first = self.start()
         serial_number = harness.ask(self.connect(), 103, "1627")
         self.assertEqual(serial_number.decode(), str(uuid.UUID((CONFIGURATION / "sn_cache").read_text())))
-        first.wait_for_log("Failed reading bucket snapshot from")
-        first.wait_for_log('Successfully set language to "de_DE"')
+        first.wait_for_log("core: Failed reading bucket snapshot from")
+        first.wait_for_log('18n: Successfully set language to "de_DE"')
         first.stop()  # with a master connected
 
         settings = CONFIGURATION / "Ravel Monitor Orbis Simulator.json"
@@ -35,9 +35,9 @@ class Program(harness.TestCase):
         self.addCleanup(settings.unlink)
         second = self.start()
         self.assertEqual(harness.ask(self.connect(), 103, "1627"), serial_number)
-        second.wait_for_log(f'Cached ID: "{serial_number.decode()}"')
-        second.wait_for_log('Language from config file: "en_GB"')
-        second.wait_for_log('Snapshot key "odd" is malformed.')
+        second.wait_for_log(f'modbus: Cached ID: "{serial_number.decode()}"')
+        second.wait_for_log('18n: Language from config file: "en_GB"')
+        second.wait_for_log('core: Snapshot key "odd" is malformed.')
 
     def test_command_line(self):
         simulator = self.start("--sn", "ABC123", "--language", "en_US", "--factorytech",
@@ -73,9 +73,9 @@ class Program(harness.TestCase):
         first.wait_for_log("This is the first instance")
 
         send_url(b"sim://x/change_lang/en_GB")
-        first.wait_for_log('Changing Language to "en_GB"')
+        first.wait_for_log('core: Changing Language to "en_GB"')
         send_url(b"sim://x/nowhere")
-        first.wait_for_log('Could not interpret URL QUrl("sim://x/nowhere")')
+        first.wait_for_log('core: Could not interpret URL QUrl("sim://x/nowhere")')
 
     def test_reader_of_the_log_leaves(self):
         with subprocess.Popen(harness.command(), stdout=subprocess.PIPE, stderr=subprocess.STDOUT) as program:

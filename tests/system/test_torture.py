@@ -63,13 +63,13 @@ class Torture(harness.TestCase):
         self.assertEqual(harness.ask(master, 3, "0FCA0002").hex(), PRESSURE)
 
     def test_denied(self):
-        no_cache = "Could not write uuid to cache:"
+        no_cache = "modbus: Could not write uuid to cache:"
         reason = "Access denied." if harness.WINDOWS else "die zu öffnende Datei ist ein Verzeichnis"
-        unreadable = f'Could not read cache file: "{reason}" create an uncached identifier.'
-        special = 'Could not read cache file: "No regular file" create an uncached identifier.'
+        unreadable = f'modbus: Could not read cache file: "{reason}" create an uncached identifier.'
+        special = 'modbus: Could not read cache file: "No regular file" create an uncached identifier.'
         for cause, line, served in [
-                (taken(socket.SOCK_STREAM, 502), "Failed listening on port 502", False),
-                (taken(socket.SOCK_DGRAM, 45123, 45124), 'Failed binding response socket "0.0.0.0" to port 45124', True),
+                (taken(socket.SOCK_STREAM, 502), "modbus: Failed listening on port 502", False),
+                (taken(socket.SOCK_DGRAM, 45123, 45124), 'orvet: Failed binding response socket "0.0.0.0" to port 45124', True),
                 (disk("", "mount -o remount,bind,ro ."), no_cache, True),
                 (disk("-o size=4k", "head -c 4096 /dev/zero >filler"), no_cache, True),
                 (disk("", f'mkdir "{CONFIGURATION}/sn_cache"'), unreadable, True),
@@ -108,13 +108,13 @@ class Torture(harness.TestCase):
         harness.wait_until(lambda: simulator.log().count("Could not interpret URL") == 2, "two messages")
         resource.prlimit(simulator.process.pid, resource.RLIMIT_NOFILE, (8, 64))
         with self.connect() as first:
-            simulator.wait_for_log("Could not accept a Modbus master:")
+            simulator.wait_for_log("modbus: Could not accept a Modbus master:")
             resource.prlimit(simulator.process.pid, resource.RLIMIT_NOFILE, (64, 64))
             self.assertRaises(ConnectionResetError, first.recv, 1)
         for _ in range(40):  # masters that have left do not count
             self.connect().close()
         masters = [self.connect() for _ in range(64)]
-        simulator.wait_for_log("Further Modbus masters have to wait, connected are 16")
+        simulator.wait_for_log("modbus: Further Modbus masters have to wait, connected are 16")
         for master in masters:
             master.sendall(READ_PRESSURE)  # also those that have to wait for a place
         for master in masters:
@@ -134,7 +134,7 @@ class Torture(harness.TestCase):
 
         for _ in range(20):
             stuck.sendall(READ_EVERYTHING)
-        close_window(int(subprocess.check_output("xdotool search --sync --onlyvisible --name ^Ravel".split())))
+        close_window(int(subprocess.check_output("xdotool search --sync --onlyvisible --name ^Ravel.*-.Pelmora$".split())))
         self.assertEqual(simulator.process.wait(harness.DEADLINE), 0)
         self.assertEqual(idle.recv(1), b"")
 
@@ -149,6 +149,9 @@ class Torture(harness.TestCase):
         harness.wait_until(moves, "the simulation to start")
         subprocess.run(["sh", OPERATE, "toggle"], check=True)
         harness.wait_until(lambda: not moves(), "the simulation to stop")
+        harness.write_to_channel(b"\0\0\0\x11x:/access_level/4")
+        subprocess.run("xdotool key Tab Tab Tab End Tab space Tab Tab".split(), check=True)  # alarmAction, raiseAlarmButton
+        harness.wait_until(lambda: harness.ask(master, 3, "1F440002").hex() == "0400100000", "an alarm to show in a list")
         geometry = subprocess.check_output("xdotool search --name ^Ravel getwindowgeometry --shell".split(), text=True)
         self.assertGreater(int(re.search("WIDTH=(.*)", geometry)[1]), 500)  # a serial number this long needs room
 
