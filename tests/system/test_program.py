@@ -27,7 +27,7 @@ class Program(harness.TestCase):
         serial_number = harness.ask(self.connect(), 103, "1627")
         self.assertEqual(serial_number.decode(), str(uuid.UUID((CONFIGURATION / "sn_cache").read_text())))
         first.wait_for_log("core: Failed reading bucket snapshot from")
-        first.wait_for_log('18n: Successfully set language to "de_DE"')
+        first.wait_for_log('18n: Successfully set language to "de_DE"\n18n: Saved current language "de_DE"')
         first.stop()  # with a master connected
 
         settings = CONFIGURATION / "Ravel Monitor Orbis Simulator.json"
@@ -38,6 +38,7 @@ class Program(harness.TestCase):
         second.wait_for_log(f'modbus: Cached ID: "{serial_number.decode()}"')
         second.wait_for_log('18n: Language from config file: "en_GB"')
         second.wait_for_log('core: Snapshot key "odd" is malformed.')
+        self.assertEqual(second.log().count("malformed"), 1)
 
     def test_command_line(self):
         simulator = self.start("--sn", "ABC123", "--language", "en_US", "--factorytech",
@@ -76,6 +77,16 @@ class Program(harness.TestCase):
         first.wait_for_log('core: Changing Language to "en_GB"')
         send_url(b"sim://x/nowhere")
         first.wait_for_log('core: Could not interpret URL QUrl("sim://x/nowhere")')
+
+    def test_trace(self):
+        simulator = self.start(environment={"QT_LOGGING_RULES": "modbus.debug=true;NetworkHelper.debug=true"})
+        harness.ask(self.connect(), 3, "07F00002")
+        simulator.wait_for_log("""connected.
+modbus: Received 12 byte request: "00 01 00 00 00 06 01 03 07 f0 00 02"
+modbus: Requested 2 registers, starting from 2032 .
+NetworkHelper: "0x0 0x1 0x0 0x0 0x0 0x7 0x1 0x3 0x4 0x0 0x0 0x40 0xA0"
+modbus: Sent response to ReadHoldingRegisters request: "00 01 00 00 00 07 01 03 04 00 00 40 a0"
+""")
 
     def test_reader_of_the_log_leaves(self):
         with subprocess.Popen(harness.command(), stdout=subprocess.PIPE, stderr=subprocess.STDOUT) as program:
