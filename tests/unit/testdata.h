@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <functional>
 
 // "text"_s is a QString.
 inline QString operator""_s(const char *utf8, std::size_t size)
@@ -88,4 +89,17 @@ inline void expectMessage(const DataLine &step)
     const QString type = step.rest().section(u' ', 0, 0);
     QVERIFY2(type == "warning"_s || type == "critical"_s, qPrintable(step.failure("warning or critical"_s, type)));
     QTest::ignoreMessage(type == "warning"_s ? QtWarningMsg : QtCriticalMsg, qPrintable(step.rest().section(u' ', 1)));
+}
+
+// The lines that are logged meanwhile.
+inline QStringList linesOf(const std::function<void()> &actions)
+{
+    static QStringList lines;
+    lines.clear();
+    const auto handler = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
+        lines += type == QtDebugMsg ? QStringList() : QStringList(QString(text).remove(u'"'));
+    });
+    actions();
+    qInstallMessageHandler(handler);
+    return lines;
 }

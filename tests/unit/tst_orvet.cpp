@@ -14,8 +14,6 @@
 #include <QThread>
 #include <QTimer>
 
-#include <functional>
-
 namespace {
 
 constexpr quint16 requestPort = 45123;
@@ -64,19 +62,6 @@ int socketsAfterCheck(OrvetPeerWorker &worker)
 {
     QMetaObject::invokeMethod(worker.findChild<QTimer *>(), "timeout");
     return worker.findChildren<QUdpSocket *>().size();
-}
-
-// The lines that are logged meanwhile.
-QStringList linesOf(const std::function<void()> &actions)
-{
-    static QStringList lines;
-    lines.clear();
-    const auto handler = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
-        lines += type == QtDebugMsg ? QStringList() : QStringList(QString(text).remove(u'"'));
-    });
-    actions();
-    qInstallMessageHandler(handler);
-    return lines;
 }
 
 QStringList linesOfCheck(OrvetPeerWorker &worker)
