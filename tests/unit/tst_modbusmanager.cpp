@@ -47,6 +47,8 @@ private slots:
         }
         QCOMPARE(walked, dataTable("properties.txt"));
         QCOMPARE(next(), 0xFFFF);
+        m_master->ask(16, "1F42 0002 04 0000 0000"); // and over again
+        QVERIFY(next() == 1000 && next() == 1001);
     }
 
     void alarmTime()
