@@ -61,7 +61,7 @@ class Documentation(unittest.TestCase):
 
     def check(self, command, wanted, directory):
         run = subprocess.run(["sh", "-c", command], cwd=directory, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                             text=True, check=False, timeout=3 * harness.DEADLINE)
+                             text=True, check=False, timeout=harness.DEADLINE)
         flags = doctest.ELLIPSIS | doctest.NORMALIZE_WHITESPACE
         self.assertTrue(doctest.OutputChecker().check_output(wanted, run.stdout, flags),
                         f"{command}\nprints\n{run.stdout}\nnot\n{wanted}")

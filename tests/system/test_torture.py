@@ -171,7 +171,7 @@ class Torture(harness.TestCase):
             simulator = self.start(environment={"TMPDIR": os.environ["HOME"]})
             simulator.wait_for_log("Checking for previous instance...")
             simulator.process.terminate()
-            self.assertEqual(simulator.process.wait(harness.DEADLINE / 2), -signal.SIGTERM)
+            self.assertEqual(simulator.process.wait(harness.DEADLINE / 4), -signal.SIGTERM)
 
     @unittest.skipIf(harness.WINDOWS, "knows no signals")
     def test_signals(self):

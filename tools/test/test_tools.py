@@ -76,7 +76,7 @@ class WithSimulator(unittest.TestCase):
     def test_scenario_and_running_simulation(self):
         wait = f"until {READ} 127.0.0.1 | grep ':.*6'; do sleep 0.1; done"
         for option in (["--running"], ["--scenario", ROOT / "examples/overheating.json"]):
-            code, _, errors = run("timeout", str(2 * harness.DEADLINE), WRAPPER, *option, "sh", "-c", wait)
+            code, _, errors = run("timeout", str(harness.DEADLINE), WRAPPER, *option, "sh", "-c", wait)
             self.assertEqual(code, 0, errors)
 
     def test_without_namespaces(self):
