@@ -23,6 +23,10 @@ constexpr int acceptsPerTurn = 16;
 // By then descriptors may be free again, and one warning a second does not flood the log.
 constexpr int restartDelayMs = 1000;
 
+// Enough for any piece. One that takes longer was held up, by a stopped process or the reader of its log, and
+// the answers should not wait as long again.
+constexpr int maximumPauseMs = 1000;
+
 // For the window, discovery and files, which hold 13 and two more for each interface; the single-instance
 // channel has its own.
 constexpr int reservedDescriptors = 32;
@@ -193,7 +197,7 @@ void ModbusConnections::makePiece()
         m_watch->lookAgain(answer.master);
         finish(answer.master);
     }
-    m_pieceTimer.start(static_cast<int>(duration.elapsed()) + 1);
+    m_pieceTimer.start(static_cast<int>(std::min<qint64>(duration.elapsed() + 1, maximumPauseMs)));
 }
 
 void ModbusConnections::finish(QAbstractSocket *master)

@@ -40,8 +40,8 @@ public:
     void stop();
 
     // For an answer that takes long: has its pieces made in later turns of the event loop, one answer after
-    // the other and each piece followed by at least as long a pause. Until then nothing more is read from the
-    // master. If it goes, the other pieces are left out.
+    // the other and each piece followed by at least as long a pause, up to a second. Until then nothing more is
+    // read from the master. If it goes, the other pieces are left out.
     void answerInPieces(QAbstractSocket *master, const Piece &piece);
 
 signals:
