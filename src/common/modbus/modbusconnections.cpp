@@ -45,7 +45,7 @@ ModbusConnections::ModbusConnections(QObject *parent)
     m_pieceTimer.setSingleShot(true);
     connect(&m_pieceTimer, &QTimer::timeout, this, &ModbusConnections::makePiece);
     connect(m_watch, &SocketWatch::ready, this, &ModbusConnections::serve);
-    connect(m_watch, &SocketWatch::held, this, [this](QAbstractSocket *master) { m_jammed.insert(master); });
+    connect(m_watch, &SocketWatch::held, this, &ModbusConnections::noteJam);
 }
 
 bool ModbusConnections::start(quint16 port)
@@ -136,7 +136,7 @@ void ModbusConnections::serve(QAbstractSocket *master)
     // A master that does not fetch its answer has to wait with its next request: otherwise all of them would
     // pile up here.
     if (master->bytesToWrite() > 0) {
-        m_jammed.insert(master);
+        noteJam(master);
         return;
     }
     if (master->state() != QAbstractSocket::ConnectedState || m_waiting.contains(master)) {
@@ -159,6 +159,15 @@ void ModbusConnections::serve(QAbstractSocket *master)
     }
     if (size > 0) {
         handOver(master, QByteArray(m_buffer)); // a copy, as a receiver may run an event loop
+    }
+}
+
+// Without epoll a socket that is looked at again is announced even if nothing has arrived, and whoever sent
+// nothing loses nothing.
+void ModbusConnections::noteJam(QAbstractSocket *master)
+{
+    if (master->bytesAvailable() > 0) {
+        m_jammed.insert(master);
     }
 }
 

@@ -57,6 +57,7 @@ private:
     void scheduleRestart();
     void restart();
     void serve(QAbstractSocket *master);
+    void noteJam(QAbstractSocket *master);
     void makePiece();
     void handOver(QAbstractSocket *master, const QByteArray &bytes);
     void finish(QAbstractSocket *master);

@@ -27,7 +27,8 @@ public:
     // Takes a connected, unbuffered socket, until it closes.
     void add(QAbstractSocket *socket);
 
-    // Announces the socket once more, in a later turn of the event loop, if there is still something to read.
+    // Announces the socket once more, in a later turn of the event loop, if there is still something to read;
+    // without epoll in any case.
     void lookAgain(QAbstractSocket *socket);
 
 signals:
