@@ -19,7 +19,7 @@ static void fuzz(const QByteArray &input)
 
     QByteArray request = input;
     if (request.size() > 11 && request.at(7) == 3) {
-        request[10] = 0; // long answers take milliseconds each
+        request[10] = 0; // a longer answer would wait for an event loop, which nobody runs here
         request[11] = static_cast<char>(input.at(11) & 31);
     }
     slave->m_registers = registers; // as after start-up, whatever the last input wrote
