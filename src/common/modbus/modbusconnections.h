@@ -29,7 +29,7 @@ class ModbusConnections : public QTcpServer
     Q_OBJECT
 
 public:
-    // Makes one piece of an answer, and sends all of it after the last one. Returns whether it was the last.
+    // Makes the next piece of an answer; with the last one it sends the whole answer and returns true.
     using Piece = std::function<bool()>;
 
     explicit ModbusConnections(QObject *parent = nullptr);
@@ -40,8 +40,8 @@ public:
     void stop();
 
     // For an answer that takes long: has its pieces made in later turns of the event loop, one answer after
-    // the other and each piece followed by at least as long a pause, up to a second. Until then nothing more is
-    // read from the master. If it goes, the other pieces are left out.
+    // the other and each piece followed by at least as long a pause, up to a second. Until the last one
+    // nothing more is read from the master. If its socket is deleted, the other pieces are left out.
     void answerInPieces(QAbstractSocket *master, const Piece &piece);
 
 signals:
@@ -71,7 +71,7 @@ private:
     };
 
     QQueue<LongAnswer> m_longAnswers;
-    QSet<const QObject *> m_waiting; // for one of them
+    QSet<const QObject *> m_waiting; // the masters of these
     QTimer m_pieceTimer;
     SocketWatch *const m_watch;
     const int m_maximumMasters;

@@ -38,8 +38,8 @@ RegisterRange registerRange(const TcpApplicationDataUnit &request)
             qFromBigEndian<quint16>(fields.constData() + countOffset)};
 }
 
-// With a warning for each register that was never set this many take half a millisecond. An even number,
-// so that a property's two registers are read together.
+// With a warning for each register that was never set this many take half a millisecond. Pieces end at
+// multiples of it: never between a property's two registers, nor beyond the last register.
 constexpr int registersPerPiece = 1024;
 
 // More registers than the 125 that the Modbus standard allows: up to 65,535.
@@ -239,7 +239,7 @@ bool ModbusTcpSlavePrivate::readRegisters(const TcpApplicationDataUnit &request,
         data.append(static_cast<char>(2 * count));
     }
     const int size = data.size();
-    const int done = size / 2;
+    const int done = (size - 1) / 2;
     const auto first = static_cast<quint16>(start + done);
     const int piece = std::min(count - done, registersPerPiece - first % registersPerPiece);
     data.resize(size + 2 * piece);
@@ -251,7 +251,7 @@ bool ModbusTcpSlavePrivate::readRegisters(const TcpApplicationDataUnit &request,
         const quint32 bits = isSet ? valueBits(*next++) : valueBits(q->holdingRegister(number));
         qToBigEndian(static_cast<quint16>(bits), word);
     }
-    return data.size() > 2 * count;
+    return done + piece == count;
 }
 
 std::optional<QByteArray>
