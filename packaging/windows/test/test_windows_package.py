@@ -47,7 +47,7 @@ class Package(harness.TestCase):
     def start_from(self, program, **environment):
         with unittest.mock.patch.dict(os.environ, SIMULATOR=str(program), **environment):
             simulator = self.start("--factorytech")
-        harness.connect().close()
+        harness.ask(self.connect(), 103, "1627")  # answered once the window is shown
         return simulator
 
     def test_zip(self):
