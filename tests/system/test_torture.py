@@ -205,6 +205,8 @@ class Torture(harness.TestCase):
         with self.subTest("masters come and go"):
             descriptors = f"/proc/{simulator.process.pid}/fd"  # under Wine only those of "launch"
             before = len(os.listdir(descriptors))
+            with harness.connect() as another:
+                another.sendall(READ_EVERYTHING)  # and leaves
             for _ in range(200):
                 with harness.connect() as another:
                     self.check_served(another)

@@ -3,6 +3,7 @@
 
 #include "common/modbus/socketwatch.h"
 
+#include <QSocketNotifier>
 #include <QTimer>
 
 namespace {
@@ -22,9 +23,20 @@ void SocketWatch::announce(QAbstractSocket *socket)
     }
 }
 
+// On Windows Qt announces the end of an unbuffered connection without a pause until it is read, and the event
+// loop comes to nothing else, not even to the timer that the reading waits for. So the notifier is switched
+// off; Qt's own reading switches it on again.
 void SocketWatch::leaveToEventLoop(QAbstractSocket *socket)
 {
-    connect(socket, &QAbstractSocket::readyRead, this, [this, socket] { announce(socket); });
+    connect(socket, &QAbstractSocket::readyRead, this, [this, socket] {
+        const auto notifiers = socket->findChildren<QSocketNotifier *>();
+        for (QSocketNotifier *notifier : notifiers) {
+            if (notifier->type() == QSocketNotifier::Read) {
+                notifier->setEnabled(false);
+            }
+        }
+        announce(socket);
+    });
 }
 
 void SocketWatch::announceLater(QAbstractSocket *socket)
