@@ -38,8 +38,7 @@ class Dissector(harness.TestCase):
 
     def test_capture(self):
         harness.add_interface()
-        # Without the ports that Wireshark knows as another protocol's.
-        harness.shell("echo 50000 53999 >/proc/sys/net/ipv4/ip_local_port_range || true")
+        harness.shell("echo 50000 53999 >/proc/sys/net/ipv4/ip_local_port_range || true")  # no other protocol's in Wireshark
         simulator = self.start("--sn", "ABC123")
         simulator.wait_for_log('with ip "192.168.7.1"')
         harness.connect().close()
