@@ -69,7 +69,8 @@ class Torture(harness.TestCase):
         special = 'modbus: Could not read cache file: "No regular file" create an uncached identifier.'
         for cause, line, served in [
                 (taken(socket.SOCK_STREAM, 502), "modbus: Failed listening on port 502", False),
-                (taken(socket.SOCK_DGRAM, 45123, 45124), 'orvet: Failed binding response socket "0.0.0.0" to port 45124', True),
+                (taken(socket.SOCK_DGRAM, 45123, 45124), 'orvet: Failed binding request socket "0.0.0.0" to port 45123\n'
+                 'orvet: Failed binding response socket "0.0.0.0" to port 45124', True),
                 (disk("", "mount -o remount,bind,ro ."), no_cache, True),
                 (disk("-o size=4k", "head -c 4096 /dev/zero >filler"), no_cache, True),
                 (disk("", f'mkdir "{CONFIGURATION}/sn_cache"'), unreadable, True),

@@ -48,13 +48,13 @@ private slots:
     void loading()
     {
         provide({"de_DE"_s, "de_AT"_s, "en_GB"_s, "../qt/qt_de"_s, "../unvisited/fr_FR"_s});
-        QFile empty(m_path + "/empty.qm"_s);
+        QFile empty(m_path + "/de_AB.qm"_s);
         QVERIFY(empty.open(QIODevice::WriteOnly));
         empty.write(QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd")); // only the signature of .qm files
         empty.close();
-        QVERIFY(QFile::copy(QStringLiteral(TEST_DATA "/translation.ts.in"), m_path + "/text.qm"_s));
+        QVERIFY(QFile::copy(QStringLiteral(TEST_DATA "/translation.ts.in"), m_path + "/de_AA.qm"_s));
         for (const QString &line :
-             {"Failed loading because language is empty from \"%1/app/empty.qm\""_s, "Failed loading language from \"%1/app/text.qm\""_s,
+             {"Failed loading because language is empty from \"%1/app/de_AB.qm\""_s, "Failed loading language from \"%1/app/de_AA.qm\""_s,
               "Failed loading language from \"%1/qt/qt_en.qm\""_s, "The path \"%1/app/missing\" doesn't exist."_s}) {
             QTest::ignoreMessage(QtWarningMsg, qPrintable(line.arg(m_directory->path())));
         }

@@ -83,7 +83,7 @@ private slots:
         values << QEasingCurve(QEasingCurve::InOutQuad) << QEasingCurve(QEasingCurve::InElastic) << spline;
         values << QRegExp("(\\d{1,3}\\.){3}\\d{1,3}|(a{1,3}b{1,3}){5}"_s);
         for (const QVariant &value : values) {
-            const QByteArray bytes = streamed(QVariantHash{{"k"_s, QVariantList{value, "behind it"_s}}});
+            const QByteArray bytes = streamed(QVariantHash{{"k"_s, QVariantList{value, "between"_s, value}}});
             QCOMPARE(streamed(readValue(bytes).value_or("none"_s)), bytes);
         }
     }
