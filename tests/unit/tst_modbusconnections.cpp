@@ -107,7 +107,7 @@ private slots:
             master.write("long");
         }
         QTRY_COMPARE(m_received.size(), 3);
-        delete sockets().first();
+        delete sockets().constFirst();
         for (ModbusMaster &master : masters) {
             master.write("next");
         }
