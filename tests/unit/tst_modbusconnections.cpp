@@ -195,6 +195,7 @@ private slots:
                             reinterpret_cast<const char *>(&size), sizeof size),
                  0);
         ModbusMaster stuck(port(), size);
+        stuck.setSocketOption(QAbstractSocket::LowDelayOption, 1); // what it asks is not held back until answers are acknowledged
         ModbusMaster other(port());
         int asked = 0;
         for (bool isServed = true; isServed; ++asked) {
@@ -205,6 +206,7 @@ private slots:
         stuck.write("yz");
         QCOMPARE(other.exchange(request, answerSize).size(), answerSize);
 
+        QTest::ignoreMessage(QtInfoMsg, QRegularExpression("did not fetch its answers; the 3 bytes"_s));
         // Once it reads, it gets the answers held back, then one more: what it sent meanwhile counts as one request.
         stuck.setReadBufferSize(0);
         QByteArray fetched;
