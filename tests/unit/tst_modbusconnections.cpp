@@ -133,6 +133,21 @@ private slots:
         QCOMPARE(after.exchange(request, m_answer.size()), m_answer);
     }
 
+    // Somebody else has the port at the first try, a second after the error, but no longer at the next.
+    void portIsTriedAgain()
+    {
+        const quint16 taken = port();
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Could not accept a Modbus master:"_s));
+        QTest::ignoreMessage(QtWarningMsg, qPrintable("Could not listen again on port %1"_s.arg(taken)));
+        emit m_connections->acceptError(QAbstractSocket::SocketResourceError);
+        m_connections->close();
+        QTcpServer other;
+        QVERIFY(other.listen(QHostAddress::Any, taken));
+        QTimer::singleShot(1500, &other, &QTcpServer::close);
+        QTRY_VERIFY(!other.isListening());
+        QTRY_COMPARE(port(), taken);
+    }
+
     void moreThanOneReadTakes()
     {
         ModbusMaster master(port());
