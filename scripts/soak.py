@@ -131,8 +131,11 @@ class Soak:
 
     def stop(self):
         self.simulator.stop()
-        lines = re.findall(r"^(?:warning|critical) .*", self.simulator.log(), re.MULTILINE)
-        for line, count in collections.Counter(re.sub(r"\d+|\".*", "N", line)[:60] for line in lines).most_common():
+        kinds = collections.Counter()
+        for line in self.simulator.log_lines():  # gigabytes
+            if line.startswith(("warning", "critical")):
+                kinds[re.sub(r"\d+|\".*", "N", line.rstrip())[:60]] += 1
+        for line, count in kinds.most_common():
             print(f"{count:8} {line}")
 
 

@@ -114,9 +114,12 @@ class Simulator:
         self.process = subprocess.Popen(command(*arguments), env={**os.environ, **environment}, stdin=subprocess.DEVNULL,
                                         stdout=self._log, stderr=subprocess.STDOUT)
 
-    def log(self):
+    def log_lines(self):
         with open(self._log.name, encoding="utf-8", errors="replace") as log:
-            return log.read()
+            yield from log
+
+    def log(self):
+        return "".join(self.log_lines())
 
     def wait_for_log(self, text):
         wait_until(lambda: text in self.log() or self.process.poll() is not None, repr(text))
