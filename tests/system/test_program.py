@@ -80,6 +80,7 @@ class Program(harness.TestCase):
 
     def test_trace(self):
         simulator = self.start(environment={"QT_LOGGING_RULES": "modbus.debug=true;NetworkHelper.debug=true"})
+        simulator.wait_for_log("Added port for device")  # from now on only the main thread logs
         harness.ask(self.connect(), 3, "07F00002")
         simulator.wait_for_log("""connected.
 modbus: Received 12 byte request: "00 01 00 00 00 06 01 03 07 f0 00 02"
