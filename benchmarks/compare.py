@@ -379,7 +379,7 @@ def report(bench, arguments):
         "Answers to the master that got most, divided by answers to the one that got fewest, in closed loop.",
         fairness_table(bench, 0.5 if arguments.quick else 3),
         "## Beside badly behaved masters",
-        "A well-behaved master asks every 10 ms beside others whose receive buffers hold 4 kB.",
+        "A well-behaved master asks every 10 ms beside others, most of whose receive buffers hold 4 kB.",
         stall_table(bench, 3 if arguments.quick else 20),
         "## Start-up, memory, idle load",
         footprint_table(bench, arguments.quick),
